@@ -1,0 +1,335 @@
+"""Writes the model of a six-storey reinforced-concrete building as a model file.
+
+    python3 generate.py > six-storey.json
+    python3 generate.py --check six-storey.json
+
+Elements are made with their corner points as topology. Points become node
+numbers at the very end, so whatever meets at a point shares its node.
+"""
+
+import json
+import sys
+from collections import namedtuple
+from itertools import pairwise
+from pathlib import Path
+
+# Published (see README): heights of the tower, plan sizes, number of storeys.
+BASEMENTS = 2                       # storeys below ground, published
+TOWER_HEIGHTS = [4] + 5 * [3]       # m, published
+LENGTH = 30                         # m, plan length of tower and basement, published
+BASEMENT_Y = (0, 21)                # m, width 21 published
+TOWER_Y = (3.5, 17.5)               # m, width 14 published, place over the basement chosen
+
+# Chosen: everything below.
+BASEMENT_HEIGHT = 3                 # m
+CANOPY_HEIGHT = 3                   # m, plant canopy above the roof
+RAFT_DEPTH = 0.8                    # m
+SILL, HEAD = 1.05, 2.1              # m above the floor, of windows and doors
+COLUMN_X = [0, 6, 12, 18, 24, 30]   # m, column lines
+COLUMN_Y = [3.5, 8.5, 12.5, 17.5]   # m
+MESH_X = list(range(0, LENGTH + 1, 2))                         # m
+MESH_Y = [0, 1.75, 3.5, 5.25, 6.75, 8.5, 10, 11, 12.5, 14.25, 15.75, 17.5, 19.25, 21]  # m
+CORE_X, CORE_Y = (12, 18), (8.5, 12.5)                         # m
+CANOPY_X, CANOPY_Y = (10, 20), (6.75, 14.25)                   # m
+COLUMN_SIDE, BEAM_WIDTH = 0.5, 0.3                             # m
+BEAM_DEPTH, TRIMMER_DEPTH = 0.5, 0.4                           # m
+SLAB, PODIUM_SLAB = 0.18, 0.25                                 # m, thickness
+PODIUM_DROP = -0.1                  # m, the slab round the tower lies lower for the paving
+
+TOWER_BASE = BASEMENTS              # level 0 of the building, counted from the raft up
+ROOF = BASEMENTS + len(TOWER_HEIGHTS)
+
+# A group is the tens of the kind and the level that the storey reaches up to.
+COLUMN, BEAM, FLOOR, WALL, RAFT, FACADE, CANOPY = 10, 20, 30, 40, 50, 60, 70
+P_COLUMN, P_BEAM, P_TRIMMER, P_POST = 1, 2, 3, 4
+P_SLAB, P_PODIUM, P_CANOPY, P_WALL, P_BASEMENT_WALL, P_RAFT, P_FACADE = 11, 12, 13, 21, 22, 31, 41
+FIRST = {"columns": 1, "beams": 1001, "slabs": 2001, "walls": 4001, "raft": 5001, "facade": 6001}
+
+Wall = namedtuple("Wall", "along line start end bottom top openings")
+# An opening is (start, end, sill, head, first storey, storey after the last).
+WINDOW_Y = [(10, 11, 0, HEAD, 2, 3), (10, 11, SILL, HEAD, 3, ROOF)]
+WINDOW_X = [(14, 16, 0, HEAD, 0, 2), (14, 16, SILL, HEAD, 2, ROOF)]
+WALLS = [
+    Wall("x", 0, 0, LENGTH, 0, BASEMENTS, []), Wall("x", 21, 0, LENGTH, 0, BASEMENTS, []),
+    Wall("y", 0, *BASEMENT_Y, 0, BASEMENTS, []), Wall("y", LENGTH, *BASEMENT_Y, 0, BASEMENTS, []),
+    Wall("y", 0, *CORE_Y, BASEMENTS, ROOF, WINDOW_Y), Wall("y", LENGTH, *CORE_Y, BASEMENTS, ROOF, WINDOW_Y),
+    Wall("x", 3.5, *CORE_X, 0, ROOF, WINDOW_X), Wall("x", 17.5, *CORE_X, 0, ROOF, WINDOW_X),
+    Wall("x", 8.5, *CORE_X, 0, ROOF, [(14, 16, 0, HEAD, 0, ROOF)]), Wall("x", 12.5, *CORE_X, 0, ROOF, []),
+    Wall("y", 12, *CORE_Y, 0, ROOF, []), Wall("y", 18, *CORE_Y, 0, ROOF, [(10, 11, 0, HEAD, 0, ROOF)]),
+]
+# Stair and lift shaft by the lower left corner of the cell: None is a hole,
+# a number the corner (counted round from the lower left) that is cut off.
+SHAFTS = {(12, 8.5): 3, (12, 10): None, (12, 11): 0, (16, 11): None}
+
+HEIGHTS = BASEMENTS * [BASEMENT_HEIGHT] + TOWER_HEIGHTS
+LEVELS = [sum(HEIGHTS[:i]) - BASEMENTS * BASEMENT_HEIGHT for i in range(len(HEIGHTS) + 1)]
+
+
+def clean(value):
+    value = round(value, 6)
+    return int(value) if value == int(value) else value
+
+
+def point(x, y, z):
+    return clean(x), clean(y), clean(z)
+
+
+def within(lines, start, end):
+    return [v for v in lines if start <= v <= end]
+
+
+def heights_of(storey):
+    """The mesh lines of a storey: floor, sill, head, a line more in the high storey, ceiling."""
+    floor, height = LEVELS[storey], HEIGHTS[storey]
+    middle = [(HEAD + height) / 2] if height > 3 else []
+    return [floor + h for h in [0, SILL, HEAD, *middle, height]]
+
+
+def element(kind, group, prop, points, **more):
+    return {"type": kind, "group": group, "property": prop, "topology": points, **more}
+
+
+def columns():
+    made = []
+    for x in COLUMN_X:
+        for y in COLUMN_Y:
+            if x in CORE_X and y in CORE_Y:
+                continue    # the corners of the core walls carry there
+            for storey in range(ROOF):
+                for low, high in pairwise(heights_of(storey)):
+                    made.append(element(2, COLUMN + storey + 1, P_COLUMN, [point(x, y, low), point(x, y, high)]))
+    top = LEVELS[ROOF]
+    for x in CORE_X:
+        for y in CORE_Y:
+            made.append(element(2, CANOPY, P_POST, [point(x, y, top), point(x, y, top + CANOPY_HEIGHT)]))
+    return made
+
+
+def on_line(along, line, lines):
+    return [(v, line) if along == "x" else (line, v) for v in lines]
+
+
+def walls():
+    made = []
+    for wall in WALLS:
+        mesh = within(MESH_X if wall.along == "x" else MESH_Y, wall.start, wall.end)
+        for storey in range(wall.bottom, wall.top):
+            prop = P_BASEMENT_WALL if wall.top == BASEMENTS else P_WALL
+            for low, high in pairwise(heights_of(storey)):
+                for a, b in pairwise(mesh):
+                    if not is_open(wall, storey, a, low - LEVELS[storey]):
+                        pa, pb = on_line(wall.along, wall.line, (a, b))
+                        ring = [point(*pa, low), point(*pb, low), point(*pb, high), point(*pa, high)]
+                        made.append(element(5, WALL + storey + 1, prop, ring))
+    return made
+
+
+def is_open(wall, storey, along, above_floor):
+    return any(start <= along < end and sill <= round(above_floor, 6) < head and first <= storey < last
+               for start, end, sill, head, first, last in wall.openings)
+
+
+def flush(depth, slab, drop):
+    """The z offset of a beam whose top is flush with the top of the slab."""
+    return clean(drop + (slab - depth) / 2)
+
+
+def beam(level, prop, depth, a, b, pinned):
+    """A beam element from a towards +X or +Y; pinned are the plan points where its end turns freely."""
+    podium = level == TOWER_BASE and not TOWER_Y[0] <= (a[1] + b[1]) / 2 <= TOWER_Y[1]
+    offset = {"z": flush(depth, PODIUM_SLAB, PODIUM_DROP) if podium else flush(depth, SLAB, 0)}
+    out = edge_side(a, b) * clean((COLUMN_SIDE - BEAM_WIDTH) / 2) if level > TOWER_BASE else 0
+    if out:
+        offset = {"y": out, **offset}
+    more = {"offset": offset}
+    if a in pinned or b in pinned:
+        more["connect"] = [{"release": ["YY", "ZZ"]} if p in pinned else None for p in (a, b)]
+    return element(2, BEAM + level, prop, [point(*a, LEVELS[level]), point(*b, LEVELS[level])], **more)
+
+
+def edge_side(a, b):
+    """1 where outside is to the left of a beam on the edge of the tower, -1 where it is to the right."""
+    if a[1] == b[1] and a[1] in TOWER_Y:
+        return 1 if a[1] == TOWER_Y[1] else -1
+    if a[0] == b[0] and a[0] in (0, LENGTH):
+        return 1 if a[0] == 0 else -1
+    return 0
+
+
+def beams(wall_elements):
+    """Beams on the column lines, but not where a wall carries the slab."""
+    carried = {frozenset(e) for w in wall_elements for e in pairwise(w["topology"] + w["topology"][:1])}
+    made = []
+    for level in range(1, ROOF + 1):
+        side = BASEMENT_Y if level <= TOWER_BASE else TOWER_Y
+        bearing = {(x, y) for x in COLUMN_X for y in BASEMENT_Y}    # on top of the outer basement wall
+        lines = [on_line("x", y, MESH_X) for y in COLUMN_Y]
+        lines += [on_line("y", x, within(MESH_Y, *side)) for x in COLUMN_X]
+        for line in lines:
+            for a, b in pairwise(line):
+                if frozenset((point(*a, LEVELS[level]), point(*b, LEVELS[level]))) not in carried:
+                    made.append(beam(level, P_BEAM, BEAM_DEPTH, a, b, bearing))
+        if level < ROOF:
+            trimmers = [on_line("y", 14, within(MESH_Y, *CORE_Y)), on_line("x", 11, within(MESH_X, 14, 18))]
+            for line in trimmers:
+                for a, b in pairwise(line):
+                    made.append(beam(level, P_TRIMMER, TRIMMER_DEPTH, a, b, {line[0], line[-1]}))
+    return made
+
+
+def first_along_x(ring):
+    """The ring begun where its edge points most nearly along +X."""
+    def cosine(i):
+        a, b = ring[i], ring[(i + 1) % len(ring)]
+        return (b[0] - a[0]) / sum((q - p) ** 2 for p, q in zip(a, b)) ** 0.5
+    start = max(range(len(ring)), key=cosine)
+    return ring[start:] + ring[:start]
+
+
+def cells(xs, ys, z, special):
+    """Corner rings, seen from above counter-clockwise, of the cells of a field."""
+    for y, y1 in pairwise(ys):
+        for x, x1 in pairwise(xs):
+            ring = [point(x, y, z), point(x1, y, z), point(x1, y1, z), point(x, y1, z)]
+            cut = special.get((x, y), -1)
+            if cut is not None:
+                yield first_along_x([p for i, p in enumerate(ring) if i != cut])
+
+
+def slabs():
+    made = []
+    for level in range(1, ROOF + 1):
+        side = BASEMENT_Y if level <= TOWER_BASE else TOWER_Y
+        shafts = SHAFTS if level < ROOF else {}
+        for ring in cells(MESH_X, within(MESH_Y, *side), LEVELS[level], shafts):
+            middle = sum(p[1] for p in ring) / len(ring)
+            kind = {4: 5, 3: 7}[len(ring)]
+            if level == TOWER_BASE and not TOWER_Y[0] < middle < TOWER_Y[1]:
+                made.append(element(kind, FLOOR + level, P_PODIUM, ring, offset={"z": PODIUM_DROP}))
+            else:
+                made.append(element(kind, FLOOR + level, P_SLAB, ring))
+    return made
+
+
+def canopy():
+    """A plate on four posts with all edges free, so that it can be quadratic beside linear floors."""
+    xs, ys = within(MESH_X, *CANOPY_X), within(MESH_Y, *CANOPY_Y)
+    corners = {(xs[0], ys[0]): 0, (xs[-2], ys[0]): 1, (xs[-2], ys[-2]): 2, (xs[0], ys[-2]): 3}
+    made = []
+    for ring in cells(xs, ys, LEVELS[ROOF] + CANOPY_HEIGHT, corners):
+        sides = pairwise(ring + ring[:1])
+        middles = [point(*((p + q) / 2 for p, q in zip(a, b))) for a, b in sides]
+        made.append(element({4: 6, 3: 8}[len(ring)], CANOPY, P_CANOPY, ring + middles))
+    return made
+
+
+def raft():
+    made = []
+    for ring in cells(MESH_X, MESH_Y, LEVELS[0], {}):
+        below = [point(x, y, z - RAFT_DEPTH) for x, y, z in ring]
+        made.append(element(12, RAFT, P_RAFT, below + ring))
+    return made
+
+
+def facade():
+    """A panel a bay and storey, outward; glazing of the lowest storey is held at every node round it."""
+    runs = [("South", "x", TOWER_Y[0], COLUMN_X), ("East", "y", LENGTH, COLUMN_Y),
+            ("North", "x", TOWER_Y[1], COLUMN_X[::-1]), ("West", "y", 0, COLUMN_Y[::-1])]
+    made = []
+    for storey in range(TOWER_BASE, ROOF):
+        for name, along, line, columns_on_it in runs:
+            for bay, (a, b) in enumerate(pairwise(columns_on_it), 1):
+                if any((w.along, w.line, w.start, w.end) == (along, line, min(a, b), max(a, b)) for w in WALLS):
+                    continue
+                mesh = within(MESH_X if along == "x" else MESH_Y, min(a, b), max(a, b))[:: 1 if a < b else -1]
+                zs = heights_of(storey)
+                if storey > TOWER_BASE:
+                    mesh, zs = [a, b], [zs[0], zs[-1]]
+                plan = on_line(along, line, mesh)
+                ring = [point(*p, zs[0]) for p in plan] + [point(*plan[-1], z) for z in zs[1:]]
+                ring += [point(*p, zs[-1]) for p in plan[-2::-1]] + [point(*plan[0], z) for z in zs[-2:0:-1]]
+                made.append({"name": f"{name} bay {bay} storey {storey - TOWER_BASE + 1}",
+                             "group": FACADE + storey + 1, "property": P_FACADE, "topology": ring})
+    return made
+
+
+def turned_beam(e):
+    """The same beam from the other end: local y points the other way, local z still up."""
+    e["topology"].reverse()
+    if "y" in e["offset"]:
+        e["offset"]["y"] = -e["offset"]["y"]
+    if "connect" in e:
+        e["connect"].reverse()
+
+
+def corners_and_middles(e):
+    count = {5: 4, 6: 4, 7: 3, 8: 3}[e["type"]]
+    return e["topology"][:count], e["topology"][count:]
+
+
+def turned_face(e):
+    """The same face seen from behind, from the same first corner."""
+    corners, middles = corners_and_middles(e)
+    e["topology"] = corners[:1] + corners[:0:-1] + middles[::-1]
+    if "offset" in e:
+        e["offset"] = {"z": -e["offset"]["z"]}
+
+
+def started_later(e):
+    corners, middles = corners_and_middles(e)
+    e["topology"] = corners[1:] + corners[:1] + middles[1:] + middles[:1]
+
+
+def disturb(elements, step, change):
+    for e in elements[step - 1::step]:
+        change(e)
+
+
+def model():
+    wall_elements = walls()
+    blocks = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs() + canopy(),
+              "walls": wall_elements, "raft": raft(), "facade": facade()}
+    disturb(blocks["beams"], 5, turned_beam)
+    disturb(blocks["slabs"], 5, turned_face)
+    disturb(blocks["slabs"], 7, started_later)
+    disturb(blocks["walls"], 5, turned_face)
+    points = {p for block in blocks.values() for e in block for p in e["topology"]}
+    number = {p: n for n, p in enumerate(sorted(points, key=lambda p: (p[2], p[1], p[0])), 1)}
+    base = clean(LEVELS[0] - RAFT_DEPTH)
+    nodes = [{"n": n, "position": p} | ({"restraint": ["X", "Y", "Z"]} if p[2] == base else {})
+             for p, n in number.items()]
+    elements = []
+    for name, block in blocks.items():
+        for n, e in enumerate(block, FIRST[name]):
+            fields = {k: v for k, v in e.items() if (k, v) != ("property", 1)}
+            elements.append({"n": n} | fields | {"topology": [number[p] for p in e["topology"]]})
+    panels = [e for e in elements if "type" not in e]
+    axis = {"n": 1, "name": "Grid", "type": 1, "origin": [0, TOWER_Y[0], 0], "x": [1, 0, 0], "xy": [0, 1, 0]}
+    return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Axis": [axis]}
+
+
+def text():
+    units = {"length": "m", "force": "N", "mass": "kg", "time": "s", "temperature": "C", "angle": "deg"}
+    head = {"format": "tarvex-model", "version": "1.0", "generator": "six-storey example", "units": units}
+    entries = [f"  {json.dumps(k)}: {json.dumps(v)}" for k, v in head.items()]
+    for name, records in model().items():
+        lines = ",\n".join("    " + json.dumps(r) for r in records)
+        entries.append(f'  "{name}": [\n{lines}\n  ]')
+    return "{\n" + ",\n".join(entries) + "\n}\n"
+
+
+def main(arguments):
+    if not arguments:
+        sys.stdout.write(text())
+        return 0
+    if len(arguments) != 2 or arguments[0] != "--check":
+        print("usage: generate.py [--check FILE]", file=sys.stderr)
+        return 2
+    if Path(arguments[1]).read_bytes() != text().encode():
+        print(f"{arguments[1]} is not what generate.py makes", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

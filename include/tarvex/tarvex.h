@@ -1,0 +1,4 @@
+// All tools of the library.
+#pragma once
+
+#include "tarvex/orientation.h"

@@ -1,0 +1,49 @@
+// What a model is made of. Internal to the store.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+#include "store/numeric/box.h"
+#include "store/record/axis.h"
+#include "store/record/element.h"
+#include "store/record/load_panel.h"
+#include "store/record/node.h"
+#include "store/record/spec.h"
+#include "store/table/paged_table.h"
+
+namespace Tarvex {
+
+/// The state of a model: one value. Copying it costs the roots of the tables.
+struct ModelState {
+  PagedTable<Data::CNode> node;
+  PagedTable<Data::CElement> elem;
+  PagedTable<Data::LoadPanel> panel;
+  PagedTable<Data::CAxis> axis;
+  Data::CSpec spec;
+  Data::CDefaults defaults;
+
+  /// Attachments of nodes that topology names and that do not exist; shared between states.
+  using Waiting = std::map<int, Data::NodeUseAccess::Pointer>;
+  std::shared_ptr<Waiting> waiting;
+  /// Whether the attachments in the node table follow all topology.
+  bool useCurrent = true;
+};
+
+/// A model's state with what is derived from it.
+class ModelCore {
+ public:
+  ModelState state;
+  bool const* hold = nullptr;  ///< the model's rebuild hold
+  bool rebuildAsked = false;   ///< FlagRebuild() since attachments were last built
+
+  struct {
+    std::uint64_t revision = ~std::uint64_t{0};  ///< of the node table that it was taken from
+    Util::CBox3D box;
+  } extents;
+
+  bool IsHeld() const { return *hold; }
+};
+
+}  // namespace Tarvex

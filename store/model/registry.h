@@ -1,0 +1,108 @@
+// The list of all tables: one row a table.
+//
+// Whole-model walks (equality, difference, files, integrity) loop over it, and access by module
+// number looks it up; no switch over modules stands beside it. The order of the rows is the order
+// of the tables in model files.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <tuple>
+
+#include "store/export.h"
+#include "store/model/zel_data.h"
+#include "store/record/axis.h"
+#include "store/record/node.h"
+
+namespace Tarvex {
+
+/// How the records of a table are numbered.
+enum class TableShape {
+  Sparse,      ///< numbers with holes
+  Positional,  ///< the number is the position from 1
+};
+
+/// How records leave a table.
+enum class RemovalForm {
+  Blank,   ///< leaves holes
+  Delete,  ///< closes up where the table is positional
+};
+
+/// One sparse table with its operations.
+template <class R>
+struct TableRow {
+  using Record = R;
+
+  CModule::ModuleId module;
+  std::string_view stem;  ///< name of the table in files and messages
+  TableShape shape;
+  RemovalForm removal;
+  bool (CZelData::*exist)(int) const;
+  R const& (CZelData::*get)(int) const;
+  tarvex_unordered_map<unsigned int, R> const& (CZelData::*all)() const;
+  int (CZelData::*highest)() const;  ///< of a number space, which two tables may share
+  void (CZelData::*set)(int, R const&, SidMode);
+  void (CZelData::*remove)(int, int);
+};
+
+/// One record that a model has once.
+template <class R>
+struct OneOffRow {
+  using Record = R;
+
+  std::string_view stem;
+  R const& (CZelData::*get)() const;
+  void (CZelData::*set)(R const&);
+};
+
+namespace Registry {
+
+inline constexpr std::tuple kOneOffs{
+    OneOffRow<Data::CSpec>{"Spec", &CZelData::Spec, &CZelData::SetSpec},
+    OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults},
+};
+
+inline constexpr std::tuple kTables{
+    TableRow<Data::CNode>{CModule::Node, "Node", TableShape::Sparse, RemovalForm::Blank,
+                          &CZelData::NodeExist, &CZelData::Node, &CZelData::Node,
+                          &CZelData::HighestNode, &CZelData::SetNode, &CZelData::BlankNode},
+    TableRow<Data::CElement>{CModule::Elem, "Elem", TableShape::Sparse, RemovalForm::Blank,
+                             &CZelData::ElemExist, &CZelData::Elem, &CZelData::Elem,
+                             &CZelData::HighestElem, &CZelData::SetElem, &CZelData::BlankElem},
+    TableRow<Data::LoadPanel>{CModule::Elem, "LoadPanel", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::LoadPanelExist, &CZelData::LoadPanel,
+                              &CZelData::LoadPanels, &CZelData::HighestElem,
+                              &CZelData::SetLoadPanel, &CZelData::BlankLoadPanel},
+    TableRow<Data::CAxis>{CModule::Axis, "Axis", TableShape::Sparse, RemovalForm::Blank,
+                          &CZelData::AxisExist, &CZelData::Axis, &CZelData::Axis,
+                          &CZelData::HighestAxis, &CZelData::SetAxis, &CZelData::BlankAxis},
+};
+
+}  // namespace Registry
+
+/// Calls visit(row) for each table, in the order of the registry.
+template <class Visit>
+void ForEachTable(Visit&& visit) {
+  std::apply([&](auto const&... rows) { (visit(rows), ...); }, Registry::kTables);
+}
+
+/// Calls visit(row) for each one-off record.
+template <class Visit>
+void ForEachOneOff(Visit&& visit) {
+  std::apply([&](auto const&... rows) { (visit(rows), ...); }, Registry::kOneOffs);
+}
+
+/// Access to the records of a module without knowing their class.
+struct ModuleRow {
+  CModule::ModuleId module;
+  bool (*exist)(CZelData const&, int);
+  int (*highest)(CZelData const&);
+  void (*clear)(CZelData&);
+};
+
+/// The rows of all modules that have a table.
+TARVEX_STORE_EXPORT std::span<ModuleRow const> Modules();
+/// The row of a module, null when no table has it.
+TARVEX_STORE_EXPORT ModuleRow const* FindModule(CModule::ModuleId module);
+
+}  // namespace Tarvex

@@ -1,0 +1,49 @@
+// The common operations of the numbered tables. Internal to the store.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "store/model/query_types.h"
+#include "store/record/entity.h"
+#include "store/table/paged_table.h"
+
+namespace Tarvex::TableOps {
+
+/// Throws std::out_of_range that names a table and a missing number.
+[[noreturn]] inline void ThrowMissing(char const* stem, int n) {
+  throw std::out_of_range(std::string(stem) + " " + std::to_string(n) + " does not exist");
+}
+
+template <class Record>
+Record const& Get(PagedTable<Record> const& table, char const* stem, int n) {
+  auto const* record = table.Find(n);
+  if (record == nullptr) ThrowMissing(stem, n);
+  return *record;
+}
+
+/// The record of an existing number for changing in place.
+template <class Record>
+Record& Edit(PagedTable<Record>& table, char const* stem, int n) {
+  if (!table.Exist(n)) ThrowMissing(stem, n);
+  return table.Edit(n);
+}
+
+/// Stores a copy that knows its number.
+template <class Record>
+Record& Store(PagedTable<Record>& table, int n, Record const& record, SidMode sid) {
+  auto& stored = table.Set(n, record);
+  StoreAccess::SetNumber(stored, n);
+  if (sid == SidMode::Drop) StoreAccess::ClearSid(stored);
+  return stored;
+}
+
+/// Calls visit(n) for each number of first to first + count - 1 that exists.
+template <class Record, class Visit>
+void ForEachIn(PagedTable<Record> const& table, int first, int count, Visit&& visit) {
+  auto const last = static_cast<long long>(first) + count - 1;
+  for (int n = table.Next(first - 1 < 0 ? 0 : first - 1); n != 0 && n <= last; n = table.Next(n))
+    visit(n);
+}
+
+}  // namespace Tarvex::TableOps

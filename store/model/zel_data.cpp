@@ -1,0 +1,106 @@
+#include "store/model/zel_data.h"
+
+#include "store/model/model_core.h"
+#include "store/model/node_use.h"
+#include "store/model/registry.h"
+
+namespace Tarvex {
+
+ModelBase::ModelBase() : m_owned(std::make_unique<ModelCore>()) { m_owned->hold = &rebuildHold; }
+
+ModelBase::ModelBase(ModelBase const& other) : ModelBase() {
+  m_owned->state = other.m_owned->state;
+}
+
+ModelBase& ModelBase::operator=(ModelBase const& other) {
+  m_owned->state = other.m_owned->state;
+  return *this;
+}
+
+ModelBase::~ModelBase() = default;
+
+CZelData::CZelData()
+    : ModelBase(), EntityTables(*m_owned), GeometryTables(*m_owned), EntityQueries(*m_owned) {}
+
+CZelData::CZelData(CZelData const& other)
+    : ModelBase(other), EntityTables(*m_owned), GeometryTables(*m_owned), EntityQueries(*m_owned) {}
+
+CZelData& CZelData::operator=(CZelData const& other) {
+  ModelBase::operator=(other);
+  return *this;
+}
+
+CZelData::~CZelData() = default;
+
+Data::CSpec const& CZelData::Spec() const { return m_owned->state.spec; }
+void CZelData::SetSpec(Data::CSpec const& spec) { m_owned->state.spec = spec; }
+Data::CDefaults const& CZelData::Defaults() const { return m_owned->state.defaults; }
+void CZelData::SetDefaults(Data::CDefaults const& defaults) { m_owned->state.defaults = defaults; }
+
+int CZelData::HighestEnt(SelType kind) const { return HighestRecord(EntModId(kind)); }
+
+int CZelData::NumEnt(SelType kind, bool panels) const {
+  auto const& state = m_owned->state;
+  std::size_t count = 0;
+  if (kind == SelNode) count = state.node.size();
+  if (kind == SelElement) count = state.elem.size() + (panels ? state.panel.size() : 0);
+  return static_cast<int>(count);
+}
+
+bool CZelData::EntExist(SEntRef const& ref, bool panels) const {
+  if (ref.type == SelElement && panels && LoadPanelExist(ref.num)) return true;
+  return RecordExist(EntModId(ref.type), ref.num);
+}
+
+void CZelData::SetEntTopo(SEntRef ref, int place, int node) {
+  if (ref.type != SelElement)
+    throw std::out_of_range("no topology to set in a " + SelTypeLabel(ref.type).ToUtf8());
+  SetElemTopo(ref.num, place, node);
+}
+
+bool CZelData::RecordExist(CModule::ModuleId module, int n) const {
+  auto const* row = FindModule(module);
+  return row != nullptr && row->exist(*this, n);
+}
+
+int CZelData::HighestRecord(CModule::ModuleId module) const {
+  auto const* row = FindModule(module);
+  return row == nullptr ? 0 : row->highest(*this);
+}
+
+void CZelData::RemoveModule(CModule::ModuleId module) {
+  if (auto const* row = FindModule(module)) row->clear(*this);
+}
+
+void CZelData::FlagRebuild() { m_owned->rebuildAsked = true; }
+
+std::shared_ptr<CZelData const> CZelData::Snapshot() const {
+  return std::make_shared<CZelData const>(*this);
+}
+
+Util::CBox3D const& CZelData::Extents() const {
+  auto& cache = m_owned->extents;
+  auto const& nodes = m_owned->state.node;
+  if (cache.revision != nodes.Revision()) {
+    cache = {nodes.Revision(), {}};
+    for (auto const& [n, node] : nodes) cache.box.AddPoint(node.Position());
+  }
+  return cache.box;
+}
+
+bool CZelData::IsEqual(CZelData const& other) const {
+  bool equal = true;
+  ForEachOneOff(
+      [&](auto const& row) { equal = equal && (this->*row.get)() == (other.*row.get)(); });
+  ForEachTable([&](auto const& row) {
+    if (!equal) return;
+    using Table = std::remove_cvref_t<decltype((this->*row.all)())>;
+    Table::Difference((this->*row.all)(), (other.*row.all)(),
+                      [&](int, auto const* before, auto const* after) {
+                        equal = equal && before != nullptr && after != nullptr && *before == *after;
+                      });
+  });
+  return equal;
+}
+
+}  // namespace Tarvex

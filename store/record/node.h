@@ -1,0 +1,91 @@
+// Nodes: the points of a model.
+#pragma once
+
+#include <boost/container/flat_set.hpp>
+#include <boost/smart_ptr/intrusive_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ref_counter.hpp>
+
+#include "store/export.h"
+#include "store/numeric/vbool6.h"
+#include "store/record/entity.h"
+#include "store/select/reference.h"
+
+namespace Tarvex::Data {
+
+/// The entities that use a node by their topology, ascending. Copies of a node share it.
+struct NodeUse : boost::intrusive_ref_counter<NodeUse> {
+  boost::container::flat_set<int> elements;  ///< elements and load panels
+  boost::container::flat_set<int> members;
+
+  bool IsEmpty() const { return elements.empty() && members.empty(); }
+};
+
+/// A node. What is attached to it is derived data that the store keeps beside the record: storing a
+/// node neither reads nor changes it, and it is no part of equality or files.
+class TARVEX_STORE_EXPORT CNode : public NamedEntity {
+ public:
+  CNode() = default;
+  CNode(Vec3<double> const& position, int axis, Vbool6 restraint)
+      : m_position(position), m_axis(axis), m_restraint(restraint) {}
+
+  /// Global co-ordinates, model length units.
+  Vec3<double> const& Position() const { return m_position; }
+  void SetPosition(Vec3<double> const& position) { m_position = position; }
+  /// Axis that restraint and results refer to, 0 for the global one.
+  int Axis() const { return m_axis; }
+  void SetAxis(int axis) { m_axis = axis; }
+  /// Directions that are held.
+  Vbool6 Restraint() const { return m_restraint; }
+  void SetRestraint(Vbool6 restraint) { m_restraint = restraint; }
+  /// Property numbers, 0 for none.
+  int SpringProperty() const { return m_springProperty; }
+  void SetSpringProperty(int property) { m_springProperty = property; }
+  int MassProperty() const { return m_massProperty; }
+  void SetMassProperty(int property) { m_massProperty = property; }
+  int DamperProperty() const { return m_damperProperty; }
+  void SetDamperProperty(int property) { m_damperProperty = property; }
+  /// Edge length that a mesh should have here, 0 for none wanted.
+  double MeshSize() const { return m_meshSize; }
+  void SetMeshSize(double size) { m_meshSize = size; }
+
+  /// Numbers of the entities of a kind (elements with load panels, or members) whose topology holds
+  /// the node; none for another kind and for a node that stands in no model.
+  boost::container::flat_set<int> const& AttachedEnt(SelType kind) const;
+  int NumEntAttached(SelType kind) const { return static_cast<int>(AttachedEnt(kind).size()); }
+
+  friend bool operator==(CNode const& a, CNode const& b) { return Same(a, b); }
+
+  static constexpr auto Fields() {
+    return std::tuple_cat(
+        NamedFields<CNode>(),
+        std::make_tuple(
+            Required<CNode>("position", &CNode::m_position),
+            Reference<CNode, CModule::Axis>("axis", &CNode::m_axis),
+            Plain<CNode>("restraint", &CNode::m_restraint),
+            Reference<CNode, CModule::SpringProp>("springProperty", &CNode::m_springProperty),
+            Reference<CNode, CModule::MassProp>("massProperty", &CNode::m_massProperty),
+            Reference<CNode, CModule::DamperProp>("damperProperty", &CNode::m_damperProperty),
+            Plain<CNode>("meshSize", &CNode::m_meshSize)));
+  }
+
+ private:
+  friend struct NodeUseAccess;
+
+  Vec3<double> m_position;
+  double m_meshSize = 0;
+  int m_axis = 0;
+  int m_springProperty = 0;
+  int m_massProperty = 0;
+  int m_damperProperty = 0;
+  Vbool6 m_restraint;
+  boost::intrusive_ptr<NodeUse> m_use;
+};
+
+/// The store's own way to the attachments of a record.
+struct NodeUseAccess {
+  using Pointer = boost::intrusive_ptr<NodeUse>;
+  static Pointer const& Get(CNode const& node) { return node.m_use; }
+  static void Set(CNode& node, Pointer use) { node.m_use = std::move(use); }
+};
+
+}  // namespace Tarvex::Data

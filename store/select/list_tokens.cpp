@@ -1,0 +1,150 @@
+#include "store/select/list_tokens.h"
+
+#include <algorithm>
+#include <array>
+
+#include "store/select/numbers.h"
+
+namespace Tarvex::Data {
+namespace {
+
+// Words that were rendered by their number in lists of earlier work, read back as words.
+constexpr std::array kWordsWrittenAsNumbers{-50, -53, -54, -57, -58};
+
+bool IsBlank(wchar_t c) { return c == L' ' || c == L'\t' || c == L'\r' || c == L'\n'; }
+bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+
+std::wstring_view Bare(std::wstring_view word) {
+  return word.ends_with(L' ') ? word.substr(0, word.size() - 1) : word;
+}
+
+/// Reads one text from left to right.
+class Reader {
+ public:
+  explicit Reader(std::wstring_view text) : m_text(text) {}
+
+  std::optional<ListTokens> Read(ListFault* fault) {
+    for (SkipBlanks(); m_at < m_text.size(); SkipBlanks()) {
+      if (ReadOne()) continue;
+      if (fault != nullptr) *fault = {static_cast<int>(m_at), m_reason};
+      return std::nullopt;
+    }
+    return std::move(m_tokens);
+  }
+
+ private:
+  void SkipBlanks() {
+    while (m_at < m_text.size() && IsBlank(m_text[m_at])) ++m_at;
+  }
+
+  bool ReadOne() {
+    wchar_t const c = m_text[m_at];
+    if (c == L'"') return ReadString();
+    if (IsDigit(c) || c == L'-') return ReadNumber();
+    return ReadWord();
+  }
+
+  bool ReadString() {
+    auto const end = m_text.find(L'"', m_at + 1);
+    if (end == std::wstring_view::npos) return Fail(L"a quoted name without its end");
+    m_tokens.words.push_back(kString);
+    m_tokens.strings.emplace_back(m_text.substr(m_at + 1, end - m_at - 1));
+    m_at = end + 1;
+    return true;
+  }
+
+  bool ReadNumber() {
+    bool const negative = m_text[m_at] == L'-';
+    auto end = m_at + (negative ? 1 : 0);
+    auto const first = end;
+    long long value = 0;
+    for (; end < m_text.size() && IsDigit(m_text[end]); ++end)
+      value = std::min<long long>(value * 10 + (m_text[end] - L'0'), kHighestNumber + 1LL);
+    if (end == first) return Fail(L"a sign without a number");
+    if (value > kHighestNumber) return Fail(L"a number above 100000000");
+    auto const token = static_cast<int>(negative ? -value : value);
+    if (negative && std::find(kWordsWrittenAsNumbers.begin(), kWordsWrittenAsNumbers.end(),
+                              token) == kWordsWrittenAsNumbers.end())
+      return Fail(L"a negative number");
+    m_tokens.words.push_back(token);
+    m_at = end;
+    return true;
+  }
+
+  bool ReadWord() {
+    ListWord const* best = nullptr;
+    for (auto const& word : ListWords())
+      if (m_text.substr(m_at).starts_with(Bare(word.text)) &&
+          (best == nullptr || Bare(word.text).size() > Bare(best->text).size()))
+        best = &word;
+    if (best == nullptr) return Fail(L"an unknown word");
+    m_tokens.words.push_back(best->token);
+    m_at += Bare(best->text).size();
+    return true;
+  }
+
+  bool Fail(wchar_t const* reason) {
+    m_reason = reason;
+    return false;
+  }
+
+  std::wstring_view m_text;
+  std::size_t m_at = 0;
+  ListTokens m_tokens;
+  CString m_reason;
+};
+
+std::wstring_view TextOf(int token) {
+  auto const& words = ListWords();
+  auto const at = std::find_if(words.begin(), words.end(),
+                               [&](ListWord const& word) { return word.token == token; });
+  return at == words.end() ? std::wstring_view() : at->text;
+}
+
+}  // namespace
+
+std::vector<ListWord> const& ListWords() {
+  static std::vector<ListWord> const kWords{
+      {kTo, L"to "},      {kNot, L"not "}, {kStep, L"step "}, {kAll, L"all "}, {kNone, L"none "},
+      {kHighest, L"* "},  {kAnd, L"and "}, {kOr, L"or "},     {kOpen, L"("},   {kClose, L")"},
+      {kSavedList, L"#"}, {-13, L"N"},     {-14, L"E"},       {-15, L"P"},     {-16, L"PB"},
+      {-17, L"PS"},       {-18, L"PM"},    {-19, L"PA"},      {-20, L"PL"},    {-21, L"PC"},
+      {-22, L"PG"},       {-23, L"PV"},    {-24, L"G"},       {-27, L"DMR"},   {-28, L"DS"},
+      {-29, L"DSR"},      {-30, L"DCB"},   {-31, L"DCS"},     {-32, L"PD"},    {-34, L"X"},
+      {-35, L"Y"},        {-36, L"XY"},    {-37, L"Z"},       {-38, L"ZX"},    {-39, L"YZ"},
+      {-50, L"M"},        {-51, L"MS"},    {-52, L"MC"},      {-53, L"MA"},    {-54, L"MG"},
+      {-55, L"MP"},       {-57, L"MT"},    {-58, L"MF"},
+  };
+  return kWords;
+}
+
+bool IsPrefixWord(int token) {
+  return (token <= -13 && token >= -39) || (token <= -50 && token >= -58);
+}
+
+std::optional<ListTokens> ReadListTokens(std::wstring_view text, ListFault* fault) {
+  return Reader(text).Read(fault);
+}
+
+CString WriteListTokens(ListTokens const& tokens) {
+  std::wstring text;
+  std::size_t nextString = 0;
+  for (int const token : tokens.words) {
+    if (token >= 0) {
+      text += std::to_wstring(token) + L" ";
+    } else if (token == kString) {
+      auto const name = nextString < tokens.strings.size() ? tokens.strings[nextString] : CString();
+      text += L"\"" + name.Str() + L"\" ";
+      ++nextString;
+    } else {
+      // "5 )" reads as "5)": the blank behind a number belongs to the number, not to what follows.
+      if (token == kClose && text.ends_with(L' ')) text.pop_back();
+      text += TextOf(token);
+    }
+    if (token == kClose) text += L' ';
+  }
+  if (text.ends_with(L' ')) text.pop_back();
+  return text;
+}
+
+}  // namespace Tarvex::Data

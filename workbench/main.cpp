@@ -1,0 +1,6 @@
+#include <cstdio>
+
+int main() {
+  std::puts("tarvex " TARVEX_VERSION);
+  return 0;
+}
