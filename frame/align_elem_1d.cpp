@@ -1,3 +1,4 @@
+// 1D entities made to run towards the positive sense of an axis.
 #include <array>
 
 #include "store/model/zel_data.h"

@@ -1,3 +1,4 @@
+// First edges of 2D entities turned towards a direction.
 #include "frame/rebuild_hold.h"
 #include "store/record/axis.h"
 #include "store/select/checked_access.h"

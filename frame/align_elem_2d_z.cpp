@@ -1,3 +1,4 @@
+// Normals of 2D entities turned towards the Z direction of an axis.
 #include "store/model/zel_data.h"
 #include "store/record/axis.h"
 #include "tarvex/orientation.h"

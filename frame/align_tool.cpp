@@ -1,3 +1,4 @@
+// What the align tools have in common.
 #include "store/model/zel_data.h"
 #include "tarvex/orientation.h"
 

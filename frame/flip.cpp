@@ -1,9 +1,7 @@
 // Reversing and spinning one entity.
 #include <algorithm>
-#include <array>
-#include <span>
-#include <utility>
 
+#include "frame/flip_rows.h"
 #include "store/model/zel_data.h"
 #include "tarvex/orientation.h"
 
@@ -11,32 +9,6 @@ namespace Tarvex {
 namespace {
 
 using Data::CElement;
-using Swap = std::pair<int, int>;
-
-/// The swaps that reverse a type, and whether the Z offset then wants one more change of sign: each
-/// swap of a 2D element negates it, and an odd number of changes must come out.
-struct FlipRow {
-  ElementType type;
-  std::array<Swap, 4> swaps;
-  int count;
-  bool negateOffsetZ;
-};
-
-constexpr std::array kPlateAndSolidFlips{
-    FlipRow{ElementType::Quad4, {{{0, 1}, {2, 3}}}, 2, true},
-    FlipRow{ElementType::Quad8, {{{5, 7}, {0, 1}, {2, 3}}}, 3, false},
-    FlipRow{ElementType::Tri3, {{{0, 1}}}, 1, false},
-    FlipRow{ElementType::Tri6, {{{4, 5}, {0, 1}}}, 2, true},
-    FlipRow{ElementType::Brick8, {{{0, 4}, {1, 5}, {2, 6}, {3, 7}}}, 4, false},
-};
-constexpr FlipRow kLineFlip{ElementType::None, {{{0, 1}}}, 1, false};
-
-FlipRow const* FindFlip(CElement const& element) {
-  if (element.Is1D()) return &kLineFlip;
-  auto const at = std::find_if(kPlateAndSolidFlips.begin(), kPlateAndSolidFlips.end(),
-                               [&](FlipRow const& row) { return row.type == element.Type(); });
-  return at == kPlateAndSolidFlips.end() ? nullptr : at;
-}
 
 /// Change of sign that gives no negative zero, which a file would show.
 double Negated(double value) { return value == 0 ? value : -value; }
@@ -80,6 +52,14 @@ void StoreTopology(CZelData& model, int n, Data::TopoVector const& nodes) {
   model.SetLoadPanel(n, copy);
 }
 
+/// True when the topology has a place for every exchange of a spin: the corners alone, or the
+/// corners with a mid-side node each.
+bool HasPlacesToSpin(CElement const& element) {
+  int const edges = element.NumEdge();
+  int const nodes = element.NumTopo();
+  return nodes == edges || nodes >= 2 * edges;
+}
+
 /// Turns a 2D element by one position.
 void SpinOnce(CElement& element) {
   int const edges = element.NumEdge();
@@ -98,8 +78,7 @@ bool FlipElement(CZelData& model, int n) {
   auto const* row = FindFlip(copy);
   if (row == nullptr || copy.NumTopo() < copy.Shape().nodes) return false;
   bool const vertical = model.ElemIsVertical(n, EntAt::Nodes);
-  for (auto const& [a, b] : std::span(row->swaps).first(static_cast<std::size_t>(row->count)))
-    SwapElementTopo(copy, vertical, a, b);
+  for (auto const& [a, b] : row->Swaps()) SwapElementTopo(copy, vertical, a, b);
   model.SetElem(n, copy);
   if (row->negateOffsetZ) {
     auto offset = copy.Offset();
@@ -132,7 +111,7 @@ bool SpinElement(CZelData& model, int n, int steps) {
   }
   if (!model.ElemExist(n) || !model.Elem(n).Is2D()) return false;
   CElement copy(model.Elem(n));
-  if (copy.NumTopo() < copy.Shape().nodes) return false;
+  if (!HasPlacesToSpin(copy)) return false;
   // Positions come back after as many steps as there are edges, signs after two steps at most.
   for (int i = steps % (2 * copy.NumEdge()); i > 0; --i) SpinOnce(copy);
   model.SetElem(n, copy);

@@ -1,6 +1,8 @@
+// Agreement of the normals of a patch, spreading in waves from seed elements.
 #include <algorithm>
 #include <span>
 
+#include "frame/flip_rows.h"
 #include "frame/rebuild_hold.h"
 #include "store/record/node.h"
 #include "tarvex/orientation.h"
@@ -48,7 +50,7 @@ class CFlipElem2D::Spread {
       : m_tool(tool),
         m_model(tool.m_model),
         m_cosine(cosine),
-        m_processed(static_cast<std::size_t>(tool.m_set.HighestItem()) + 1),
+        m_processed(NumMarks(tool)),
         m_seen(m_processed.size(), 0) {}
 
   bool IsProcessed(int n) const { return m_processed[static_cast<std::size_t>(n)]; }
@@ -67,6 +69,13 @@ class CFlipElem2D::Spread {
   }
 
  private:
+  /// A mark for each element that can be met; a set may name numbers far above all elements.
+  static std::size_t NumMarks(CFlipElem2D const& tool) {
+    return static_cast<std::size_t>(
+               std::min(tool.m_set.HighestItem(), tool.m_model.HighestElem())) +
+           1;
+  }
+
   void MarkProcessed(int n) { m_processed[static_cast<std::size_t>(n)] = true; }
 
   /// True once for each element within a round.
@@ -132,19 +141,12 @@ bool CFlipElem2D::Do() {
 
 void CFlipElem2D::FlipElem(int n) {
   if (!m_model.ElemExist(n)) return;
-  struct Row {
-    int count;
-    std::vector<std::pair<int, int>> swaps;
-  };
-  static std::vector<Row> const kRows{
-      {3, {{0, 1}}}, {4, {{0, 1}, {2, 3}}}, {6, {{4, 5}, {0, 1}}}, {8, {{5, 7}, {0, 1}, {2, 3}}}};
   auto const nodes = m_model.Elem(n).Topology();
-  for (auto const& row : kRows) {
-    if (row.count != static_cast<int>(nodes.size())) continue;
-    for (auto const& [a, b] : row.swaps) {
-      m_model.SetElemTopo(n, a, nodes[static_cast<std::size_t>(b)]);
-      m_model.SetElemTopo(n, b, nodes[static_cast<std::size_t>(a)]);
-    }
+  auto const* row = FindPlateFlipByNodes(static_cast<int>(nodes.size()));
+  if (row == nullptr) return;
+  for (auto const& [a, b] : row->Swaps()) {
+    m_model.SetElemTopo(n, a, nodes[static_cast<std::size_t>(b)]);
+    m_model.SetElemTopo(n, b, nodes[static_cast<std::size_t>(a)]);
   }
 }
 

@@ -1,6 +1,25 @@
-#include <cstdio>
+#include <unistd.h>
 
-int main() {
-  std::puts("tarvex " TARVEX_VERSION);
-  return 0;
+#include <csignal>
+#include <iostream>
+
+#include "workbench/cli/program.h"
+#include "workbench/commands/errors.h"
+#include "workbench/file/atomic_file.h"
+
+namespace {
+
+extern "C" void OnInterrupt(int) {
+  Tarvex::Workbench::RemoveTemporaryFileOnSignal();
+  _exit(static_cast<int>(Tarvex::Workbench::ExitCode::Interrupted));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::signal(SIGINT, OnInterrupt);
+  std::signal(SIGTERM, OnInterrupt);
+  std::signal(SIGPIPE, SIG_IGN);  // a reader that went away is no fault worth a message
+  std::ios::sync_with_stdio(false);
+  return Tarvex::Workbench::RunProgram({argv + 1, argv + argc}, std::cout, std::cerr);
 }

@@ -304,7 +304,7 @@ def model():
             fields = {k: v for k, v in e.items() if (k, v) != ("property", 1)}
             elements.append({"n": n} | fields | {"topology": [number[p] for p in e["topology"]]})
     panels = [e for e in elements if "type" not in e]
-    axis = {"n": 1, "name": "Grid", "type": 1, "origin": [0, TOWER_Y[0], 0], "x": [1, 0, 0], "xy": [0, 1, 0]}
+    axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}
     return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Axis": [axis]}
 
 

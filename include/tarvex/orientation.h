@@ -39,7 +39,8 @@ TARVEX_EXPORT bool FlipLoadPanel(CZelData& model, int panel);
 /// A step exchanges one pair of positions fewer than there are edges, and each exchange negates the
 /// Z offset of an element: a 4-noded quadrilateral changes the sign of its offset once a step, a
 /// triangle and a quadratic element do not.
-/// @return false when steps is below 1 or there is no such 2D element or panel.
+/// @return false, with no change, when steps is below 1, when there is no such 2D element or panel,
+/// and for a topology that has neither the corners alone nor a mid-side node for each.
 TARVEX_EXPORT bool SpinElement(CZelData& model, int element, int steps);
 
 /// What the align tools have in common: model, selection and axis.

@@ -10,14 +10,7 @@ namespace Tarvex {
 namespace {
 
 using Data::CElement;
-using Data::TopoVector;
 using Util::CDirCos;
-
-/// Positions of a few nodes; up to eight cost no allocation.
-class Points : public boost::container::small_vector<Vec3<double>, 8> {
- public:
-  operator std::span<Vec3<double> const>() const { return {data(), size()}; }  // NOLINT: a view
-};
 
 /// Topology of the element, panel or node of a reference; empty when it does not exist.
 std::span<int const> TopologyOf(ModelState const& state, SEntRef const& ref) {
@@ -34,16 +27,24 @@ std::optional<Vec3<double>> Position(ModelState const& state, int node) {
   return record == nullptr ? std::nullopt : std::optional(record->Position());
 }
 
-/// Positions of nodes; empty when one of them does not exist.
-Points Positions(ModelState const& state, std::span<int const> nodes) {
-  Points points;
-  for (int const node : nodes) {
-    auto const p = Position(state, node);
-    if (!p) return {};
-    points.push_back(*p);
+/// Positions of nodes, empty when one of them does not exist; up to eight cost no allocation.
+class Points : public boost::container::small_vector<Vec3<double>, 8> {
+ public:
+  Points(ModelState const& state, std::span<int const> nodes) {
+    for (int const node : nodes) {
+      auto const p = Position(state, node);
+      if (!p) {
+        clear();
+        return;
+      }
+      push_back(*p);
+    }
   }
-  return points;
-}
+  Points(Points const&) = delete;
+  Points& operator=(Points const&) = delete;
+
+  operator std::span<Vec3<double> const>() const { return {data(), size()}; }  // NOLINT: a view
+};
 
 /// The corners of an element or panel; all nodes where the shape does not tell.
 std::span<int const> Corners(std::span<int const> nodes, CElement const* element) {
@@ -53,11 +54,11 @@ std::span<int const> Corners(std::span<int const> nodes, CElement const* element
 
 Points CornerPoints(ModelState const& state, int n) {
   auto const nodes = TopologyOf(state, {SelElement, n});
-  return Positions(state, Corners(nodes, state.elem.Find(n)));
+  return Points(state, Corners(nodes, state.elem.Find(n)));
 }
 
 CDirCos LineFrameOf(ModelState const& state, CElement const& element) {
-  auto const ends = Positions(state, Corners(element.Topology(), &element));
+  Points const ends(state, Corners(element.Topology(), &element));
   if (ends.size() != 2) return {};
   std::optional<Vec3<double>> orientation;
   if (element.OrientationNode() != 0) orientation = Position(state, element.OrientationNode());
@@ -66,12 +67,12 @@ CDirCos LineFrameOf(ModelState const& state, CElement const& element) {
 }
 
 CDirCos SolidFrameOf(ModelState const& state, CElement const& element, int face) {
-  if (face >= 0) return Util::PlateFrame(Positions(state, element.FaceTopo(face)), 0);
-  auto const nodes = element.Topology();
+  if (face >= 0) return Util::PlateFrame(Points(state, element.FaceTopo(face)), 0);
+  auto const& nodes = element.Topology();
   if (nodes.size() < static_cast<std::size_t>(element.Shape().corners)) return {};
   // The near face is listed about its outward normal: its second entry is its last node.
   int const last = element.Shape().faces[0][1];
-  auto const points = Positions(state, std::array{nodes[0], nodes[1], element.Topo(last)});
+  Points const points(state, std::array{nodes[0], nodes[1], element.Topo(last)});
   if (points.empty()) return {};
   return {points[1] - points[0], points[2] - points[0]};
 }

@@ -33,11 +33,20 @@ void StoreEntity(ModelCore& core, PagedTable<Record>& table, PagedTable<Other>& 
   NodeUse::TopologyChanged(core, ElementRef(n), before, stored.Topology());
 }
 
+/// Removes records but for those that are locked.
 template <class Record>
 void BlankEntities(ModelCore& core, PagedTable<Record>& table, int first, int count) {
+  std::vector<int> locked;
   TableOps::ForEachIn(table, first, count, [&](int n) {
-    NodeUse::TopologyChanged(core, ElementRef(n), table.Find(n)->Topology(), {});
+    auto const& record = *table.Find(n);
+    if (record.IsLocked()) return locked.push_back(n);
+    NodeUse::TopologyChanged(core, ElementRef(n), record.Topology(), {});
   });
+  for (int const n : locked) {
+    table.Remove(first, n - first);
+    count -= n + 1 - first;
+    first = n + 1;
+  }
   table.Remove(first, count);
 }
 
@@ -56,6 +65,7 @@ void ChangeEither(ModelCore& core, int n, Change&& change) {
     change(TableOps::Edit(core.state.elem, "Elem", n));
 }
 
+/// Changes a node in place where its position stays.
 template <class Change>
 void ChangeNode(ModelCore& core, int n, Change&& change) {
   change(TableOps::Edit(core.state.node, "Node", n));
@@ -66,8 +76,11 @@ bool StoreNode(ModelCore& core, int n, CNode const& node, SidMode sid) {
   auto& table = core.state.node;
   auto const* old = table.Find(n);
   bool const isNew = old == nullptr;
+  core.NodeMoved(n, old, nullptr);
   auto use = isNew ? nullptr : NodeUseAccess::Get(*old);
-  NodeUseAccess::Set(TableOps::Store(table, n, node, sid), std::move(use));
+  auto& stored = TableOps::Store(table, n, node, sid);
+  NodeUseAccess::Set(stored, std::move(use));
+  core.NodeMoved(n, nullptr, &stored);
   return isNew;
 }
 
@@ -99,7 +112,10 @@ void EntityTables::_SetNode(int n, CNode const& node, SidMode sid) {
 
 void EntityTables::BlankNode(int first, int count) {
   auto& table = m_core.state.node;
-  TableOps::ForEachIn(table, first, count, [&](int n) { NodeUse::NodeGoes(m_core, n); });
+  TableOps::ForEachIn(table, first, count, [&](int n) {
+    m_core.NodeMoved(n, table.Find(n), nullptr);
+    NodeUse::NodeGoes(m_core, n);
+  });
   table.Remove(first, count);
 }
 
@@ -109,7 +125,10 @@ void EntityTables::CreateNode(int n, Vec3<double> const& position, int axis, Vbo
 }
 
 void EntityTables::SetNodeCoor(int n, Vec3<double> const& position) {
-  ChangeNode(m_core, n, [&](CNode& node) { node.SetPosition(position); });
+  auto& node = TableOps::Edit(m_core.state.node, "Node", n);
+  m_core.NodeMoved(n, &node, nullptr);
+  node.SetPosition(position);
+  m_core.NodeMoved(n, nullptr, &node);
 }
 
 void EntityTables::SetNodeAxis(int n, int axis) {
@@ -122,6 +141,19 @@ void EntityTables::SetNodeRestraint(int n, Vbool6 restraint) {
 
 void EntityTables::SetNodeSid(int n, CString const& sid) {
   ChangeNode(m_core, n, [&](CNode& node) { node.SetSid(sid); });
+}
+
+std::vector<int> EntityTables::NodesAroundPoint(Vec3<double> const& point, double radius) const {
+  return m_core.Positions().Around(point, radius);
+}
+
+void EntityTables::NodesAroundPoint(Vec3<double> const& point, std::vector<int>& nodes,
+                                    double radius) const {
+  nodes = NodesAroundPoint(point, radius);
+}
+
+int EntityTables::NearestNode(Vec3<double> const& point, double distance) const {
+  return m_core.Positions().Nearest(point, distance);
 }
 
 Vec3<double> const& EntityTables::NodeCoor(int n) const {
@@ -148,6 +180,10 @@ int EntityTables::HighestElem() const {
 
 void EntityTables::SetElem(int n, CElement const& element, SidMode sid) {
   StoreEntity(m_core, m_core.state.elem, m_core.state.panel, n, element, sid);
+}
+
+void EntityTables::LockElem(int n, bool on) {
+  ChangeElem(m_core, n, [&](CElement& element) { element.Lock(on); });
 }
 
 void EntityTables::BlankElem(int first, int count) {

@@ -13,6 +13,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "store/export.h"
 #include "store/model/query_types.h"
@@ -53,6 +54,13 @@ class TARVEX_STORE_EXPORT EntityTables {
   void SetNodeSid(int n, CString const& sid);
   /// Global co-ordinates of a node; a missing number is std::out_of_range.
   Vec3<double> const& NodeCoor(int n) const;
+  /// The nodes within a radius of a point (inclusive, model length units), ascending. Right at all
+  /// times, also during a rebuild hold.
+  std::vector<int> NodesAroundPoint(Vec3<double> const& point, double radius) const;
+  void NodesAroundPoint(Vec3<double> const& point, std::vector<int>& nodes, double radius) const;
+  /// The node nearest to a point within a distance (inclusive), the lowest of equally near ones; 0
+  /// when there is none.
+  int NearestNode(Vec3<double> const& point, double distance) const;
   /// Builds the attachments of nodes at once, also during a rebuild hold.
   void InitNodalUseElem();
 
@@ -81,6 +89,9 @@ class TARVEX_STORE_EXPORT EntityTables {
   void SetElemConnect(int n, int place, CElemConnect const& connect);
   void SetElemOffset(int n, Data::COffset const& offset);
   void SetElemSid(int n, CString const& sid);
+  /// Protects an element against deletion, for the time of one tool, or ends that. The lock goes
+  /// with copies of the record; it is no part of equality or files.
+  void LockElem(int n, bool on);
 
   // Load panels.
   bool LoadPanelExist(int n) const;

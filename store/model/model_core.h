@@ -4,13 +4,17 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "store/numeric/box.h"
+#include "store/numeric/point_index.h"
 #include "store/record/axis.h"
 #include "store/record/element.h"
 #include "store/record/load_panel.h"
 #include "store/record/node.h"
 #include "store/record/spec.h"
+#include "store/table/history.h"
 #include "store/table/paged_table.h"
 
 namespace Tarvex {
@@ -43,7 +47,21 @@ class ModelCore {
     Util::CBox3D box;
   } extents;
 
+  History<ModelState> history;
+  std::vector<CModule::ModuleId> bulkModules;  ///< announced by AddBulkOperations
+
+  /// Where the nodes are; built by the first query and followed from then on.
+  std::optional<Util::PointIndex> positions;
+
+  /// Whether attachments wait for the end of a bulk change instead of following each store.
   bool IsHeld() const { return *hold; }
+  bool DefersUse() const { return *hold || !bulkModules.empty(); }
+
+  Util::PointIndex const& Positions();
+  /// Follows a node that goes from one record to another; null where it comes or goes.
+  void NodeMoved(int n, Data::CNode const* before, Data::CNode const* after);
+  /// Puts another state in the place of the present one, with all that is derived from it.
+  void Restore(ModelState other);
 };
 
 }  // namespace Tarvex

@@ -127,7 +127,7 @@ void TopologyChanged(ModelCore& core, SEntRef entity, std::span<int const> befor
                      std::span<int const> after) {
   if (!core.state.useCurrent) return;
   if (std::is_permutation(before.begin(), before.end(), after.begin(), after.end())) return;
-  if (core.IsHeld()) return MarkStale(core);
+  if (core.DefersUse()) return MarkStale(core);
   for (int const node : before)
     if (!Holds(after, node))
       ChangeUse(core.state, node, [&](Use& use) { SetOf(use, entity.type).erase(entity.num); });
@@ -139,7 +139,7 @@ void TopologyChanged(ModelCore& core, SEntRef entity, std::span<int const> befor
 void NodeAdded(ModelCore& core, int n) {
   auto& state = core.state;
   if (!state.useCurrent || state.waiting == nullptr || !state.waiting->contains(n)) return;
-  if (core.IsHeld()) return MarkStale(core);
+  if (core.DefersUse()) return MarkStale(core);
   auto& waiting = OwnWaiting(state);
   NodeUseAccess::Set(state.node.EditDerived(n), waiting.at(n));
   waiting.erase(n);
@@ -149,7 +149,7 @@ void NodeGoes(ModelCore& core, int n) {
   auto& state = core.state;
   auto const& use = NodeUseAccess::Get(*state.node.Find(n));
   if (!state.useCurrent || use == nullptr) return;
-  if (core.IsHeld()) return MarkStale(core);
+  if (core.DefersUse()) return MarkStale(core);
   OwnWaiting(state)[n] = use;
 }
 

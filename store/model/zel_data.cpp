@@ -1,11 +1,12 @@
 #include "store/model/zel_data.h"
 
+#include <algorithm>
+
 #include "store/model/model_core.h"
 #include "store/model/node_use.h"
 #include "store/model/registry.h"
 
 namespace Tarvex {
-
 ModelBase::ModelBase() : m_owned(std::make_unique<ModelCore>()) { m_owned->hold = &rebuildHold; }
 
 ModelBase::ModelBase(ModelBase const& other) : ModelBase() {
@@ -13,7 +14,7 @@ ModelBase::ModelBase(ModelBase const& other) : ModelBase() {
 }
 
 ModelBase& ModelBase::operator=(ModelBase const& other) {
-  m_owned->state = other.m_owned->state;
+  m_owned->Restore(other.m_owned->state);
   return *this;
 }
 
@@ -73,6 +74,30 @@ void CZelData::RemoveModule(CModule::ModuleId module) {
 }
 
 void CZelData::FlagRebuild() { m_owned->rebuildAsked = true; }
+
+void CZelData::AddBulkOperations(std::vector<CModule::ModuleId> const& modules) {
+  auto& bulk = m_owned->bulkModules;
+  bulk.insert(bulk.end(), modules.begin(), modules.end());
+}
+
+void CZelData::ClearBulkOperations() { m_owned->bulkModules.clear(); }
+
+bool CZelData::Undo() {
+  return m_owned->history.Undo(m_owned->state,
+                               [&](ModelState state) { m_owned->Restore(std::move(state)); });
+}
+
+bool CZelData::Redo() {
+  return m_owned->history.Redo(m_owned->state,
+                               [&](ModelState state) { m_owned->Restore(std::move(state)); });
+}
+
+int CZelData::NumUndo() const { return static_cast<int>(m_owned->history.NumUndo()); }
+int CZelData::NumRedo() const { return static_cast<int>(m_owned->history.NumRedo()); }
+
+void CZelData::SetUndoDepth(int steps) {
+  m_owned->history.SetDepth(static_cast<std::size_t>(std::max(steps, 0)));
+}
 
 std::shared_ptr<CZelData const> CZelData::Snapshot() const {
   return std::make_shared<CZelData const>(*this);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "store/export.h"
 #include "store/model/entity_queries.h"
@@ -32,6 +33,8 @@ class TARVEX_STORE_EXPORT ModelBase {
   bool rebuildHold = false;
   /// Number of open RebuildHold scopes.
   int rebuildHoldDepth = 0;
+  /// Number of open scopes of bulk changes; guarded by the mutex of the tool that opens them.
+  int bulkCounter = 0;
 };
 
 /// A structural finite-element model in memory.
@@ -78,6 +81,20 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
   // State.
   /// Marks derived data stale: the next query builds it once more, also during a rebuild hold.
   void FlagRebuild();
+  /// Announces that records of modules are about to change in bulk: attachments of nodes are then
+  /// built by the next query instead of being followed, until ClearBulkOperations().
+  void AddBulkOperations(std::vector<CModule::ModuleId> const& modules);
+  void ClearBulkOperations();
+
+  // Undo. A step is one accepted outermost CUndoStep (store/model/undo_step.h).
+  /// Goes back by one step, or forward again. @return false when there is none or a step is open.
+  bool Undo();
+  bool Redo();
+  int NumUndo() const;
+  int NumRedo() const;
+  /// Number of steps that are kept at most, 100 at first; the oldest go.
+  void SetUndoDepth(int steps);
+
   /// A read-only model of the present state, which stays as it is when this one changes.
   std::shared_ptr<CZelData const> Snapshot() const;
   /// Box of all nodes, empty without nodes; right at all times.
@@ -87,6 +104,8 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
   friend bool operator==(CZelData const& a, CZelData const& b) { return a.IsEqual(b); }
 
  private:
+  friend class CUndoStep;
+
   bool IsEqual(CZelData const& other) const;
 };
 

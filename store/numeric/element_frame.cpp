@@ -28,7 +28,8 @@ CDirCos LineFrame(Vec3<double> const& start, Vec3<double> const& end,
   if (!byNode) {
     Vec3<double> const up{0, 0, 1};
     Vec3<double> const north{0, 1, 0};
-    if (!frame.Assign(x, IsVertical(x, verticalTolerance) ? north : Cross(up, x))) return frame;
+    bool const level = !IsVertical(x, verticalTolerance) && frame.Assign(x, Cross(up, x));
+    if (!level && !frame.Assign(x, north)) return frame;
   }
   if (angle != 0) frame.Rotate(Direction::X, Radians(angle));
   return frame;

@@ -17,17 +17,17 @@ void ConnectList::Set(int place, CElemConnect const& connect) {
   auto const at = static_cast<std::size_t>(place);
   if (at >= places.size()) places.resize(at + 1);
   places[at] = connect;
-  Keep(std::move(places));
+  Assign(std::move(places));
 }
 
 void ConnectList::Truncate(int count) {
   if (Size() <= count) return;
   auto places = *m_places;
   places.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
-  Keep(std::move(places));
+  Assign(std::move(places));
 }
 
-void ConnectList::Keep(std::vector<CElemConnect> places) {
+void ConnectList::Assign(std::vector<CElemConnect> places) {
   while (!places.empty() && places.back().IsNone()) places.pop_back();
   if (places.empty())
     m_places.reset();

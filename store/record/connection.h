@@ -50,6 +50,8 @@ class TARVEX_STORE_EXPORT ConnectList {
   CElemConnect const& At(int place) const;
   /// Throws std::out_of_range for a position below 0.
   void Set(int place, CElemConnect const& connect);
+  /// Replaces all connections, by position from 0.
+  void Assign(std::vector<CElemConnect> places);
   /// Forgets the positions from count on.
   void Truncate(int count);
   /// One above the highest position that is not free of releases.
@@ -62,8 +64,6 @@ class TARVEX_STORE_EXPORT ConnectList {
   }
 
  private:
-  void Keep(std::vector<CElemConnect> places);
-
   std::shared_ptr<std::vector<CElemConnect> const> m_places;  // its last entry is never free
 };
 

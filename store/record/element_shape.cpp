@@ -38,13 +38,13 @@ constexpr ElementShape Line(ElementType type, CModule::ModuleId property,
 constexpr ElementShape Line(ElementType type, CModule::ModuleId property) {
   return Line(type, property, SameVariant(type));
 }
-constexpr ElementShape Plate(ElementType type, std::int8_t nodes, std::int8_t corners,
-                             ElementType linear, ElementType quadratic,
-                             std::span<EdgeRow const> edges, std::span<FaceRow const> faces) {
+constexpr ElementShape Plate(ElementType type, int nodes, int corners, ElementType linear,
+                             ElementType quadratic, std::span<EdgeRow const> edges,
+                             std::span<FaceRow const> faces) {
   return {type,  2,    nodes, corners, false, CModule::Prop2D, linear, quadratic, SameVariant(type),
           edges, faces};
 }
-constexpr ElementShape Solid(ElementType type, std::int8_t nodes, std::span<EdgeRow const> edges,
+constexpr ElementShape Solid(ElementType type, int nodes, std::span<EdgeRow const> edges,
                              std::span<FaceRow const> faces) {
   return {type,  3,    nodes, nodes, false, CModule::Prop3D, type, None, SameVariant(type),
           edges, faces};

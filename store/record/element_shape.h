@@ -37,8 +37,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
-#include <initializer_list>
 #include <span>
 
 #include "store/export.h"
@@ -76,16 +74,16 @@ enum class ElementType : int {
 enum class VariantElementType : int { LoadPanel = 19, Spacer = 27 };
 
 /// One face of a solid: topology positions, -1 behind the last one of a triangle.
-using FaceRow = std::array<std::int8_t, 4>;
+using FaceRow = std::array<int, 4>;
 /// One edge: the positions of its two corners.
-using EdgeRow = std::array<std::int8_t, 2>;
+using EdgeRow = std::array<int, 2>;
 
 /// What is the same for all elements of a type.
 struct ElementShape {
   ElementType type = ElementType::None;
-  std::int8_t dimension = 0;  ///< 1 to 3; 0 for a type without a shape
-  std::int8_t nodes = 0;
-  std::int8_t corners = 0;
+  int dimension = 0;  ///< 1 to 3; 0 for a type without a shape
+  int nodes = 0;
+  int corners = 0;
   bool section = false;                        ///< 1D with a section
   CModule::ModuleId property = CModule::None;  ///< table of its property number
   ElementType linear = ElementType::None;      ///< the shape with corner nodes only

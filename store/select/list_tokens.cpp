@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "store/select/numbers.h"
+#include "store/select/case_tokens.h"
 
 namespace Tarvex::Data {
 namespace {
@@ -23,8 +23,9 @@ class Reader {
  public:
   explicit Reader(std::wstring_view text) : m_text(text) {}
 
-  std::optional<ListTokens> Read(ListFault* fault) {
+  std::optional<ListTokens> Read(ListFault* fault, std::vector<int>* places) {
     for (SkipBlanks(); m_at < m_text.size(); SkipBlanks()) {
+      if (places != nullptr) places->push_back(static_cast<int>(m_at));
       if (ReadOne()) continue;
       if (fault != nullptr) *fault = {static_cast<int>(m_at), m_reason};
       return std::nullopt;
@@ -41,6 +42,8 @@ class Reader {
     wchar_t const c = m_text[m_at];
     if (c == L'"') return ReadString();
     if (IsDigit(c) || c == L'-') return ReadNumber();
+    bool const digitBehind = m_at + 1 < m_text.size() && IsDigit(m_text[m_at + 1]);
+    if (digitBehind && CaseOfLetter(c) != CaseOp::None) return ReadCase();
     return ReadWord();
   }
 
@@ -53,13 +56,19 @@ class Reader {
     return true;
   }
 
-  bool ReadNumber() {
-    bool const negative = m_text[m_at] == L'-';
-    auto end = m_at + (negative ? 1 : 0);
-    auto const first = end;
+  /// The number of the digits from a place on, at most one above the highest; end goes behind them.
+  long long Digits(std::size_t& end) const {
     long long value = 0;
     for (; end < m_text.size() && IsDigit(m_text[end]); ++end)
       value = std::min<long long>(value * 10 + (m_text[end] - L'0'), kHighestNumber + 1LL);
+    return value;
+  }
+
+  bool ReadNumber() {
+    bool const negative = m_text[m_at] == L'-';
+    auto const first = m_at + (negative ? 1 : 0);
+    auto end = first;
+    auto const value = Digits(end);
     if (end == first) return Fail(L"a sign without a number");
     if (value > kHighestNumber) return Fail(L"a number above 100000000");
     auto const token = static_cast<int>(negative ? -value : value);
@@ -67,6 +76,15 @@ class Reader {
                               token) == kWordsWrittenAsNumbers.end())
       return Fail(L"a negative number");
     m_tokens.words.push_back(token);
+    m_at = end;
+    return true;
+  }
+
+  bool ReadCase() {
+    auto end = m_at + 1;
+    auto const value = Digits(end);
+    if (value > kHighestNumber) return Fail(L"a number above 100000000");
+    m_tokens.words.push_back(CaseToken({CaseOfLetter(m_text[m_at]), static_cast<int>(value)}));
     m_at = end;
     return true;
   }
@@ -94,11 +112,26 @@ class Reader {
   CString m_reason;
 };
 
-std::wstring_view TextOf(int token) {
+ListWord const* FindWord(int token) {
   auto const& words = ListWords();
   auto const at = std::find_if(words.begin(), words.end(),
                                [&](ListWord const& word) { return word.token == token; });
-  return at == words.end() ? std::wstring_view() : at->text;
+  return at == words.end() ? nullptr : &*at;
+}
+
+/// Text of a word that is no quoted name.
+std::wstring TextOf(int token) {
+  if (IsNumberToken(token)) return std::to_wstring(token);
+  if (auto const ref = CaseOfToken(token); ref.type != CaseOp::None)
+    return LetterOfCase(ref.type) + std::to_wstring(ref.num);
+  auto const* word = FindWord(token);
+  return word == nullptr ? std::wstring() : std::wstring(Bare(word->text));
+}
+
+bool NeedsBlank(int before, int token) {
+  if (before == kOpen || token == kClose) return false;
+  bool const takesNumber = before == kSavedList || IsPrefixWord(before);
+  return !takesNumber || (token != kHighest && !IsNumberToken(token));
 }
 
 }  // namespace
@@ -118,32 +151,32 @@ std::vector<ListWord> const& ListWords() {
   return kWords;
 }
 
+bool IsListWord(int token) { return FindWord(token) != nullptr; }
+
 bool IsPrefixWord(int token) {
   return (token <= -13 && token >= -39) || (token <= -50 && token >= -58);
 }
 
-std::optional<ListTokens> ReadListTokens(std::wstring_view text, ListFault* fault) {
-  return Reader(text).Read(fault);
+std::optional<ListTokens> ReadListTokens(std::wstring_view text, ListFault* fault,
+                                         std::vector<int>* places) {
+  return Reader(text).Read(fault, places);
 }
 
 CString WriteListTokens(ListTokens const& tokens) {
   std::wstring text;
   std::size_t nextString = 0;
+  int before = kOpen;
   for (int const token : tokens.words) {
-    if (token >= 0) {
-      text += std::to_wstring(token) + L" ";
-    } else if (token == kString) {
-      auto const name = nextString < tokens.strings.size() ? tokens.strings[nextString] : CString();
-      text += L"\"" + name.Str() + L"\" ";
-      ++nextString;
-    } else {
-      // "5 )" reads as "5)": the blank behind a number belongs to the number, not to what follows.
-      if (token == kClose && text.ends_with(L' ')) text.pop_back();
+    if (NeedsBlank(before, token)) text += L' ';
+    if (token != kString) {
       text += TextOf(token);
+    } else {
+      auto const name = nextString < tokens.strings.size() ? tokens.strings[nextString] : CString();
+      text += L'"' + name.Str() + L'"';
+      ++nextString;
     }
-    if (token == kClose) text += L' ';
+    before = token;
   }
-  if (text.ends_with(L' ')) text.pop_back();
   return text;
 }
 

@@ -1,7 +1,8 @@
 // The words of selection lists: text to tokens and back.
 //
-// A list is kept as whole numbers: 0 and above are numbers of records, below 0 are keywords. This
-// header knows words only; what a sequence of words selects is the business of the lists.
+// A list is kept as whole numbers: 0 and above are numbers of records or cases (case_tokens.h),
+// below 0 are keywords. This header knows words only; which sequences of words are a list is said
+// in list_grammar.h.
 #pragma once
 
 #include <optional>
@@ -40,6 +41,9 @@ struct ListWord {
 /// All keywords but the quoted string, by descending token.
 TARVEX_STORE_EXPORT std::vector<ListWord> const& ListWords();
 
+/// Whether a token is one of ListWords().
+TARVEX_STORE_EXPORT bool IsListWord(int token);
+
 /// True for a prefix word (-13 to -39 and -50 to -58), behind which a following keyword needs no
 /// blank.
 TARVEX_STORE_EXPORT bool IsPrefixWord(int token);
@@ -59,14 +63,18 @@ struct ListFault {
 };
 
 /// Reads words: keywords by their longest match, so that no blank need stand behind a prefix word
-/// or a parenthesis; whole numbers from 0 to 100000000; the negative numbers of the words M, MA,
-/// MG, MT and MF; names in double quotes, where a quotation mark can't be part of the name.
+/// or a parenthesis; whole numbers from 0 to 100000000; cases, which are such numbers directly
+/// behind their letter; the negative numbers of the words M, MA, MG, MT and MF; names in double
+/// quotes, where a quotation mark can't be part of the name.
 /// @param fault receives the place and reason of a failure when it is given.
+/// @param places receives the place of each word in the text when it is given.
 /// @return empty when the text has anything else in it.
 TARVEX_STORE_EXPORT std::optional<ListTokens> ReadListTokens(std::wstring_view text,
-                                                             ListFault* fault = nullptr);
+                                                             ListFault* fault = nullptr,
+                                                             std::vector<int>* places = nullptr);
 
-/// Text of the words, one blank between words that need it and none at the end.
+/// Text of the words: one blank between them and none at the end, but none inside a parenthesis at
+/// its ends nor between a prefix word or "#" and its number.
 TARVEX_STORE_EXPORT CString WriteListTokens(ListTokens const& tokens);
 
 }  // namespace Tarvex::Data

@@ -220,7 +220,7 @@ class PagedTable {
             static_cast<unsigned>(i % PageSize)};
   }
   static int Number(std::size_t chunk, unsigned page, unsigned slot) {
-    return static_cast<int>(chunk * kPerChunk + page * PageSize + slot + 1);
+    return static_cast<int>(chunk * kPerChunk + std::size_t{page} * PageSize + slot + 1);
   }
 
   Page const* PageAt(PlaceOf const& place) const {

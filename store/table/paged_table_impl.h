@@ -35,6 +35,7 @@ Record& PagedTable<Record, PageSize, ChunkSize>::Set(int number, R&& record) {
                             " is not from 1 to 100000000");
   auto const place = Place(number);
   auto& page = OwnPage(place);
+  m_revision = NextRevision();  // before the store: one that fails may leave half a record
   if (page.Holds(place.slot)) {
     page.At(place.slot) = std::forward<R>(record);
   } else {
@@ -42,7 +43,6 @@ Record& PagedTable<Record, PageSize, ChunkSize>::Set(int number, R&& record) {
     ++m_count;
     m_highest = std::max(m_highest, number);
   }
-  m_revision = NextRevision();
   return page.At(place.slot);
 }
 

@@ -88,22 +88,19 @@ class CString {
  private:
   template <class T>
   static Text::FormatArg ToArg(T const& value) {
-    if constexpr (std::is_enum_v<T>)
+    if constexpr (std::is_enum_v<T>) {
       return static_cast<int>(value);
-    else if constexpr (std::is_same_v<T, wchar_t> || std::is_same_v<T, char>)
+    } else if constexpr (std::is_same_v<T, wchar_t> || std::is_same_v<T, char>) {
       return static_cast<wchar_t>(value);
-    else if constexpr (std::is_floating_point_v<T>)
+    } else if constexpr (std::is_floating_point_v<T>) {
       return static_cast<double>(value);
-    else if constexpr (std::is_integral_v<T> && sizeof(T) <= sizeof(int) && std::is_signed_v<T>)
-      return static_cast<int>(value);
-    else if constexpr (std::is_integral_v<T> && sizeof(T) <= sizeof(int))
-      return static_cast<unsigned int>(value);
-    else if constexpr (std::is_integral_v<T> && std::is_signed_v<T>)
-      return static_cast<long long>(value);
-    else if constexpr (std::is_integral_v<T>)
-      return static_cast<unsigned long long>(value);
-    else
+    } else if constexpr (std::is_integral_v<T>) {
+      using Wide = std::conditional_t<std::is_signed_v<T>, long long, unsigned long long>;
+      using Narrow = std::conditional_t<std::is_signed_v<T>, int, unsigned int>;
+      return static_cast<std::conditional_t<(sizeof(T) > sizeof(int)), Wide, Narrow>>(value);
+    } else {
       return std::wstring_view(value);
+    }
   }
 
   std::wstring m_text;

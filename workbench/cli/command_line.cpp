@@ -1,0 +1,139 @@
+// The one source that includes the command line library: it takes seconds to compile.
+#include "workbench/cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <list>
+
+#include "workbench/commands/errors.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+/// Where the parser puts the values of one command's options until they are checked.
+struct Values {
+  std::list<std::string> texts;  // a list: the parser keeps references
+  std::vector<std::pair<CLI::Option*, std::string>> given;
+};
+
+void AddOwnOptions(CLI::App& app, Command const& command, Values& values) {
+  for (auto const& option : command.options) {
+    std::string const name(option.name);
+    std::string const help(option.help);
+    if (option.kind == ValueKind::Flag) {
+      values.texts.emplace_back("true");
+      values.given.emplace_back(app.add_flag(name, help), name);
+      continue;
+    }
+    auto& text = values.texts.emplace_back();
+    auto* added = app.add_option(name, text, help)->expected(1);
+    added->type_name(std::string(option.value));
+    if (!option.preset.empty()) added->default_str(std::string(option.preset));
+    values.given.emplace_back(added, name);
+  }
+}
+
+void AddCommonOptions(CLI::App& app, CommandKind kind, Invocation& invocation) {
+  static std::map<std::string, ColourMode> const kColours{
+      {"auto", ColourMode::Auto}, {"always", ColourMode::Always}, {"never", ColourMode::Never}};
+  if (kind != CommandKind::Alone) {
+    app.add_option("MODEL", invocation.model, "the model file, - for standard input")
+        ->required()
+        ->type_name("");
+    app.add_flag("--strict", invocation.strict, "refuse references to missing records");
+  }
+  if (kind == CommandKind::Changes) {
+    app.add_option("-o,--output", invocation.output, "the file to write, - for standard output")
+        ->type_name("OUT");
+    app.add_flag("--in-place", invocation.inPlace,
+                 "replace the model file; the old one stays as MODEL.bak");
+    app.add_flag("--dry-run", invocation.dryRun, "report only, write nothing");
+    app.add_flag("--force", invocation.force, "replace an existing output");
+  }
+  app.add_flag("--json", invocation.json, "print the report as JSON");
+  app.add_flag("-q,--quiet", invocation.quiet, "print no report and no warnings");
+  app.add_flag("-v,--verbose", invocation.verbose, "print every number of long lists");
+  app.add_option("--color", invocation.colour, "colour of messages: auto, always or never")
+      ->type_name("WHEN")
+      ->transform(CLI::CheckedTransformer(kColours).description(""));
+}
+
+/// One line for a fault of the command line.
+std::string Explain(CLI::ParseError const& fault) {
+  std::string const what = fault.what();
+  if (fault.get_name() == "RequiredError" && what.starts_with("MODEL"))
+    return "the model file is missing";
+  return what.substr(0, what.find('\n'));
+}
+
+void CheckDestination(Invocation const& invocation) {
+  int const count = !invocation.output.empty() + invocation.inPlace + invocation.dryRun;
+  if (count != 1) throw UsageError("give one of -o OUT, --in-place and --dry-run");
+  if (invocation.inPlace && invocation.model == "-")
+    throw UsageError("--in-place needs a model file, not standard input");
+}
+
+/// The first word that is no option: the name of the command.
+std::string CommandWord(std::vector<std::string> const& words) {
+  for (auto const& word : words)
+    if (!word.starts_with('-')) return word;
+  return {};
+}
+
+Arguments TakeArguments(Command const& command, Values const& values) {
+  std::map<std::string, std::string> given;
+  auto text = values.texts.begin();
+  for (auto const& [option, name] : values.given) {
+    if (option->count() > 0) given[name] = *text;
+    ++text;
+  }
+  return {command.options, given};
+}
+
+}  // namespace
+
+Invocation ParseCommandLine(std::vector<std::string> const& words) {
+  Invocation invocation;
+  CLI::App app("Tools that change a structural finite-element model as a whole.", "tarvex");
+  app.set_version_flag("--version", "tarvex " TARVEX_VERSION);
+  app.require_subcommand(1);
+  app.footer(
+      "Exit codes: 0 done, 1 something to look at, 2 bad command line, 3 refused,\n"
+      "4 faulty file, 5 fault of the program.");
+  auto const word = CommandWord(words);
+  Values values;
+  CLI::App* chosen = nullptr;
+  for (auto const& command : Commands()) {
+    auto* sub = app.add_subcommand(std::string(command.name), std::string(command.help));
+    if (command.name != word) continue;
+    chosen = sub;
+    invocation.command = &command;
+    AddOwnOptions(*sub, command, values);
+    AddCommonOptions(*sub, command.kind, invocation);
+  }
+  if (!word.empty() && chosen == nullptr) FindCommand(word);
+  try {
+    // The library takes the words from the last to the first.
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+  } catch (CLI::CallForVersion const& call) {
+    invocation.print = std::string(call.what()) + "\n";
+    return invocation;
+  } catch (CLI::CallForHelp const&) {
+    invocation.print = (chosen == nullptr ? app : *chosen).help();
+    return invocation;
+  } catch (CLI::ParseError const& fault) {
+    throw UsageError(word.empty() ? "give a command, see tarvex --help" : Explain(fault));
+  }
+  invocation.arguments = TakeArguments(*invocation.command, values);
+  if (invocation.command->kind == CommandKind::Changes) CheckDestination(invocation);
+  return invocation;
+}
+
+bool AsksForJson(std::vector<std::string> const& words) {
+  for (auto const& word : words) {
+    if (word == "--") return false;
+    if (word == "--json") return true;
+  }
+  return false;
+}
+
+}  // namespace Tarvex::Workbench

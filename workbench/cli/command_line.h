@@ -1,0 +1,39 @@
+// The command line: words to an invocation.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "workbench/commands/command.h"
+
+namespace Tarvex::Workbench {
+
+/// When text is coloured.
+enum class ColourMode { Auto, Always, Never };
+
+/// What one command line asks for.
+struct Invocation {
+  /// Text to print instead of running anything: help or the version.
+  std::string print;
+
+  Command const* command = nullptr;
+  Arguments arguments;
+  std::string model;
+  std::string output;  ///< -o
+  bool inPlace = false;
+  bool dryRun = false;
+  bool force = false;
+  bool strict = false;
+  bool json = false;
+  bool quiet = false;
+  bool verbose = false;
+  ColourMode colour = ColourMode::Auto;
+};
+
+/// Reads the words behind the program's name. Throws UsageError with one line of text.
+Invocation ParseCommandLine(std::vector<std::string> const& words);
+
+/// Whether the words ask for JSON, so that a fault in them can be told as JSON.
+bool AsksForJson(std::vector<std::string> const& words);
+
+}  // namespace Tarvex::Workbench

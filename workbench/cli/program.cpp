@@ -1,0 +1,132 @@
+#include "workbench/cli/program.h"
+
+#include <filesystem>
+#include <iostream>
+
+#include "workbench/cli/command_line.h"
+#include "workbench/commands/errors.h"
+#include "workbench/file/model_reader.h"
+#include "workbench/file/model_writer.h"
+#include "workbench/file/references.h"
+#include "workbench/report/report.h"
+#include "workbench/report/text.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+constexpr char const* kStandardStream = "-";
+
+/// Name of the file that a run writes; empty for a dry run.
+std::string OutputOf(Invocation const& invocation) {
+  return invocation.inPlace ? invocation.model : invocation.output;
+}
+
+void CheckOutput(Invocation const& invocation) {
+  namespace fs = std::filesystem;
+  auto const& output = invocation.output;
+  if (output.empty() || output == kStandardStream) return;
+  std::error_code ignored;
+  if (!fs::exists(fs::symlink_status(output, ignored))) return;
+  if (invocation.model != kStandardStream && fs::equivalent(output, invocation.model, ignored))
+    throw UsageError("the output is the input: use --in-place");
+  if (!invocation.force) throw UsageError(output + " exists: use --force to replace it");
+}
+
+void CheckReferences(Invocation const& invocation, CZelData const& model, CommandResult& result) {
+  auto const dangling = FindDanglingReferences(model);
+  if (dangling.empty()) return;
+  auto const text = Counted(dangling.size(), "reference") + " to missing records, see check";
+  if (invocation.strict) throw FileError({invocation.model, 0, 0, ""}, text);
+  result.warnings.push_back({"dangling-references", "", 0, text});
+}
+
+void RunCommand(Invocation const& invocation, CZelData& model, Report& report) {
+  try {
+    invocation.command->run(model, invocation.arguments, report.result);
+  } catch (UsageError const&) {
+    throw;
+  } catch (std::exception const& fault) {
+    throw Refusal(fault.what());  // an exception of the tool: nothing is written
+  }
+}
+
+/// Reads, runs and writes; fills the report.
+void Run(Invocation const& invocation, Report& report) {
+  auto const& command = *invocation.command;
+  report.command = command.name;
+  report.changesModel = command.kind == CommandKind::Changes;
+  report.input = invocation.model;
+  report.output = OutputOf(invocation);
+  report.dryRun = invocation.dryRun;
+
+  CZelData model;
+  if (command.kind != CommandKind::Alone) {
+    CheckOutput(invocation);
+    ReadModel(invocation.model, model);
+    CheckReferences(invocation, model, report.result);
+  }
+  CZelData const before(model);
+  RunCommand(invocation, model, report);
+  if (report.changesModel) {
+    report.changes = FindChanges(before, model);
+    if (invocation.inPlace)
+      ReplaceModel(model, invocation.model);
+    else if (!invocation.dryRun)
+      WriteModel(model, invocation.output);
+  }
+  report.exit = report.result.undone.empty() ? ExitCode::Done : ExitCode::LookAt;
+}
+
+/// Runs and turns every way to fail into the report's failure and exit code.
+void RunReported(std::vector<std::string> const& words, Invocation& invocation, Report& report) {
+  auto const fail = [&](ExitCode exit, std::string const& text, FilePlace place = {}) {
+    report.exit = exit;
+    report.failure = Failure{text, std::move(place)};
+  };
+  try {
+    invocation = ParseCommandLine(words);
+    if (invocation.command != nullptr && invocation.print.empty()) Run(invocation, report);
+  } catch (UsageError const& fault) {
+    fail(ExitCode::Usage, fault.what());
+  } catch (Refusal const& fault) {
+    fail(ExitCode::Refused, fault.what());
+  } catch (FileError const& fault) {
+    fail(ExitCode::File, fault.Text(), fault.Place());
+  } catch (std::exception const& fault) {
+    fail(ExitCode::Fault, std::string("a fault of the program: ") + fault.what());
+  }
+}
+
+void PrintMessages(Invocation const& invocation, Report const& report, std::ostream& err) {
+  if (report.failure) {
+    auto const& place = report.failure->place;
+    err << (place.file.empty() ? "tarvex: " + report.failure->text
+                               : std::string(FileError(place, report.failure->text).what()))
+        << "\n";
+  } else if (!invocation.quiet) {
+    for (auto const& warning : report.result.warnings) err << "warning: " << warning.text << "\n";
+  }
+}
+
+}  // namespace
+
+int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err) {
+  Invocation invocation;
+  Report report;
+  RunReported(words, invocation, report);
+  if (!invocation.print.empty()) {
+    out << invocation.print << std::flush;
+    return static_cast<int>(ExitCode::Done);
+  }
+  PrintMessages(invocation, report, err);
+  bool const json = invocation.json || (report.failure && AsksForJson(words));
+  // A model on standard output is alone there.
+  auto& reportStream = invocation.output == kStandardStream ? err : out;
+  if (json)
+    reportStream << ReportJson(report) << std::flush;
+  else if (!report.failure && !invocation.quiet)
+    reportStream << ReportText(report, invocation.verbose) << std::flush;
+  return static_cast<int>(report.exit);
+}
+
+}  // namespace Tarvex::Workbench

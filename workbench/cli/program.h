@@ -1,0 +1,14 @@
+// One run of the program.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace Tarvex::Workbench {
+
+/// Runs the words behind the program's name. Results go to out, messages to err; a model that is
+/// written to standard output goes there whatever out is. @return the exit code.
+int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err);
+
+}  // namespace Tarvex::Workbench

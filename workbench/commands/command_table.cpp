@@ -1,0 +1,30 @@
+#include "workbench/commands/command.h"
+#include "workbench/commands/errors.h"
+#include "workbench/commands/info.h"
+#include "workbench/commands/orientation.h"
+#include "workbench/commands/reference.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+std::vector<Command> MakeTable() {
+  std::vector<Command> table;
+  for (auto const& family : {InfoCommands(), OrientationCommands(), ReferenceCommands()})
+    table.insert(table.end(), family.begin(), family.end());
+  return table;
+}
+
+}  // namespace
+
+std::span<Command const> Commands() {
+  static std::vector<Command> const kTable = MakeTable();
+  return kTable;
+}
+
+Command const& FindCommand(std::string_view name) {
+  for (auto const& command : Commands())
+    if (command.name == name) return command;
+  throw UsageError("unknown command '" + std::string(name) + "', see tarvex --help");
+}
+
+}  // namespace Tarvex::Workbench

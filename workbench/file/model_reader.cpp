@@ -1,0 +1,211 @@
+#include "workbench/file/model_reader.h"
+
+#include <algorithm>
+
+#include "store/model/registry.h"
+#include "workbench/file/codecs.h"
+#include "workbench/file/file_error.h"
+#include "workbench/file/json_value.h"
+#include "workbench/file/model_format.h"
+#include "workbench/file/read_file.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+/// A record as it stands in a file of numbered records.
+template <class Record>
+struct NumberedRecord : Record {
+  int number = 0;
+  char const* place = nullptr;  ///< of the number in the text
+};
+
+template <class Target>
+using KeyReader = FieldReader<JsonValue, Target>;
+
+/// Readers of the number and of all fields of a record.
+template <class Record>
+constexpr auto MakeRecordReaders() {
+  using Target = NumberedRecord<Record>;
+  constexpr auto kFields = MakeFieldReaders<JsonValue, Record, Target>();
+  std::array<KeyReader<Target>, kFields.size() + 1> readers{};
+  readers[0] = {"n", true, [](JsonValue& in, Target& target) {
+                  target.number = in.Whole(1, kHighestNumber);
+                  target.place = in.Place();
+                }};
+  std::copy(kFields.begin(), kFields.end(), readers.begin() + 1);
+  return readers;
+}
+
+void ExpectText(JsonValue& in, std::string_view expected) {
+  if (auto const text = in.String(); text != expected)
+    in.Fail("expected " + Quoted(expected) + ", found " + Quoted(text));
+}
+
+void ReadVersion(JsonValue& in) {
+  if (auto const text = in.String(); text != ModelFormat::kVersion)
+    in.Fail("format version " + Quoted(text) + " is not known; this program reads version " +
+            Quoted(ModelFormat::kVersion));
+}
+
+void ReadUnits(JsonValue& in) {
+  struct Nothing {};
+  constexpr auto kCount = ModelFormat::kUnits.size();
+  constexpr auto kReaders = []<std::size_t... I>(std::index_sequence<I...>) {
+    return std::array{KeyReader<Nothing>{
+        ModelFormat::kUnits[I].key, true,
+        [](JsonValue& unit, Nothing&) { ExpectText(unit, ModelFormat::kUnits[I].text); }}...};
+  }
+  (std::make_index_sequence<kCount>());
+  Nothing nothing;
+  ReadObject(in, kReaders, nothing);
+}
+
+/// Reads the whole of one file into an empty model.
+class Reader {
+ public:
+  explicit Reader(CZelData& model) : m_model(model) {}
+
+  void Read(JsonRoot& root);
+
+  /// Holds the head of the file to its order.
+  void BeforeKey(std::size_t at, JsonKey const& key) {
+    auto const& header = ModelFormat::kHeader;
+    for (; m_header < std::min(at, header.size()); ++m_header)
+      if (header[m_header].required) key.Fail("expected key " + Quoted(header[m_header].name));
+    if (at >= header.size()) return;
+    if (at < m_header) key.Fail("key " + Quoted(header[at].name) + " comes too late");
+    ++m_header;
+  }
+
+  template <class Row>
+  void ReadTable(JsonValue& in, Row const& table) {
+    using Record = typename Row::Record;
+    static constexpr auto kReaders = MakeRecordReaders<Record>();
+    in.ForEachItem([&](JsonValue& item) {
+      NumberedRecord<Record> record;
+      ReadObject(item, kReaders, record);
+      CheckFree(table, record.number, record.place);
+      (m_model.*table.set)(record.number, record, SidMode::Keep);
+    });
+  }
+
+  template <class Row>
+  void ReadOneOff(JsonValue& in, Row const& row) {
+    typename Row::Record record;
+    Codec<typename Row::Record>::Read(in, record);
+    (m_model.*row.set)(record);
+  }
+
+ private:
+  /// Fails when a table, or another that shares its numbers, has a record of a number.
+  template <class Row>
+  void CheckFree(Row const& table, int number, char const* place) const {
+    ForEachTable([&](auto const& row) {
+      bool const shares =
+          row.stem == table.stem || (row.module == table.module && row.module != CModule::None);
+      if (!shares || !(m_model.*row.exist)(number)) return;
+      throw JsonWalkFault{place, "number " + std::to_string(number) + " occurs twice, first in " +
+                                     std::string(row.stem)};
+    });
+  }
+
+  CZelData& m_model;
+  std::size_t m_header = 0;  ///< place in the header of what may come next
+};
+
+/// Readers of one-off records or of tables, from their rows in the registry.
+template <auto const& Rows, auto Read>
+constexpr auto MakeRowReaders() {
+  return []<std::size_t... I>(std::index_sequence<I...>) {
+    return std::array{KeyReader<Reader>{
+        std::get<I>(Rows).stem, false,
+        [](JsonValue& in, Reader& reader) { Read(reader, in, std::get<I>(Rows)); }}...};
+  }
+  (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(Rows)>>>());
+}
+
+template <class... Arrays>
+constexpr auto Joined(Arrays const&... arrays) {
+  std::array<KeyReader<Reader>, (std::tuple_size_v<Arrays> + ...)> all{};
+  auto next = all.begin();
+  ((next = std::copy(arrays.begin(), arrays.end(), next)), ...);
+  return all;
+}
+
+constexpr auto MakeHeaderReaders() {
+  using enum ModelFormat::Key;
+  std::array<KeyReader<Reader>, ModelFormat::kHeader.size()> readers{};
+  for (std::size_t i = 0; i < readers.size(); ++i)
+    readers[i] = {ModelFormat::kHeader[i].name, ModelFormat::kHeader[i].required, nullptr};
+  auto constexpr anyText = [](JsonValue& in, Reader&) { in.String(); };
+  readers[kSchema].read = anyText;
+  readers[kFormat].read = [](JsonValue& in, Reader&) { ExpectText(in, ModelFormat::kName); };
+  readers[kVersionKey].read = [](JsonValue& in, Reader&) { ReadVersion(in); };
+  readers[kGeneratorKey].read = anyText;
+  readers[kUnitsKey].read = [](JsonValue& in, Reader&) { ReadUnits(in); };
+  return readers;
+}
+
+void Reader::Read(JsonRoot& root) {
+  static constexpr auto kReaders = Joined(
+      MakeHeaderReaders(),
+      MakeRowReaders<Registry::kOneOffs, [](Reader& reader, JsonValue& in,
+                                            auto const& row) { reader.ReadOneOff(in, row); }>(),
+      MakeRowReaders<Registry::kTables, [](Reader& reader, JsonValue& in, auto const& row) {
+        reader.ReadTable(in, row);
+      }>());
+  ReadObject(root, kReaders, *this);
+}
+
+/// The fault of a text that can't be read. A text that is no JSON is told as such, since whatever
+/// else seems wrong with it may follow from that.
+FileError Explained(JsonWalkFault const& fault, std::string_view text, std::string const& file) {
+  auto offset = static_cast<std::size_t>(fault.at - text.data());
+  auto const scan = ScanJson(text, offset);
+  if (scan.fault) offset = scan.fault->offset;
+  auto const place = PlaceInText(text, offset);
+  return {{file, place.line, place.column, scan.fault ? scan.fault->pointer : scan.pointer},
+          scan.fault ? scan.fault->text : fault.text};
+}
+
+/// Faults of a text as a whole, which say more than what the reader would find first.
+void CheckWhole(std::string_view text, std::string const& file) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  auto const fail = [&](char const* reason) { throw FileError({file, 1, 1, ""}, reason); };
+  if (text.find_first_not_of(" \t\r\n") == std::string_view::npos) fail("the file is empty");
+  if (text.starts_with(kByteOrderMark))
+    fail("a byte-order mark; model files are UTF-8 without one");
+  if (text.size() > kJsonLongest) fail("longer than 4 GiB");
+}
+
+/// @param text goes on for kJsonPadding zero bytes.
+void ReadPadded(std::string_view text, std::string const& file, CZelData& model) {
+  CheckWhole(text, file);
+  try {
+    CZelData fresh;
+    fresh.rebuildHold = true;  // what is attached to nodes is built once, at the first query
+    JsonRoot root(text);
+    Reader(fresh).Read(root);
+    model = fresh;
+  } catch (JsonWalkFault const& fault) {
+    throw Explained(fault, text, file);
+  }
+}
+
+}  // namespace
+
+void ReadModel(std::string const& path, CZelData& model) {
+  auto text = ReadWholeFile(path, kJsonPadding);
+  auto const size = text.size();
+  text.append(kJsonPadding, '\0');
+  ReadPadded({text.data(), size}, path == kStandardPath ? "standard input" : path, model);
+}
+
+void ReadModelText(std::string_view text, std::string const& fileName, CZelData& model) {
+  std::string padded;
+  padded.reserve(text.size() + kJsonPadding);
+  padded.append(text).append(kJsonPadding, '\0');
+  ReadPadded({padded.data(), text.size()}, fileName, model);
+}
+
+}  // namespace Tarvex::Workbench

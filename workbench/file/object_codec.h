@@ -1,0 +1,156 @@
+// JSON objects of types that describe their fields: reading, writing and schema, made from the
+// field rows alone.
+//
+// The templates know neither the JSON library that reads nor the one that holds schemas: Value is
+// the reader's value (json_value.h), Json the schema's (model_schema.cpp).
+#pragma once
+
+#include <array>
+#include <bitset>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "store/record/field.h"
+#include "workbench/file/json_scan.h"
+
+namespace Tarvex::Workbench {
+
+/// How values of one type stand in files; codecs.h has one a type. Each gives
+///   Read(in, value)    from the reader's value, failing there
+///   Write(out, value)  appended to a text; throws CodecFault for what a file can't hold
+///   Schema<Json>()     the type's JSON schema
+template <class T>
+struct Codec;
+
+/// A value that no file can hold.
+struct CodecFault {
+  std::string text;
+};
+
+// Reading.
+
+/// One key of an object and what reads its value into the target.
+template <class Value, class Target>
+struct FieldReader {
+  std::string_view name;
+  bool required;
+  void (*read)(Value&, Target&);
+};
+
+/// Readers of all fields of T into a Target, which is T or derived from it.
+template <class Value, Described T, class Target = T>
+constexpr auto MakeFieldReaders() {
+  constexpr auto kCount = std::tuple_size_v<decltype(T::Fields())>;
+  return []<std::size_t... I>(std::index_sequence<I...>) {
+    return std::array<FieldReader<Value, Target>, kCount>{FieldReader<Value, Target>{
+        std::get<I>(T::Fields()).name, std::get<I>(T::Fields()).required,
+        [](Value& in, Target& target) {
+          constexpr auto kField = std::get<I>(T::Fields());
+          Codec<typename decltype(kField)::Value>::Read(in, target.*kField.member);
+        }}...};
+  }
+  (std::make_index_sequence<kCount>());
+}
+
+/// Index of the reader of a key, the number of readers when there is none. Files have the keys of
+/// most records in order, so the one that should come next is tried first.
+template <class Readers, class Key>
+std::size_t FindReader(Readers const& readers, Key const& key, std::size_t next) {
+  if (next < readers.size() && key.Is(readers[next].name)) return next;
+  for (std::size_t i = 0; i < readers.size(); ++i)
+    if (key.Is(readers[i].name)) return i;
+  auto const text = key.Text();  // perhaps spelled with escapes
+  for (std::size_t i = 0; i < readers.size(); ++i)
+    if (readers[i].name == text) return i;
+  return readers.size();
+}
+
+/// Reads an object, each key at most once and the required ones at least. A target that has
+/// BeforeKey(index, key) is told of each key before its value is read.
+template <class Object, class Value, class Target, std::size_t N>
+void ReadObject(Object& in, std::array<FieldReader<Value, Target>, N> const& readers,
+                Target& target) {
+  std::bitset<N> seen;
+  std::size_t next = 0;
+  in.ForEachField([&](auto const& key, Value& value) {
+    auto const at = FindReader(readers, key, next);
+    if (at == N) key.Fail("unknown key " + Quoted(key.Text()));
+    if (seen[at]) key.Fail("repeated key " + Quoted(key.Text()));
+    seen.set(at);
+    next = at + 1;
+    if constexpr (requires { target.BeforeKey(at, key); }) target.BeforeKey(at, key);
+    readers[at].read(value, target);
+  });
+  for (std::size_t i = 0; i < N; ++i)
+    if (readers[i].required && !seen[i]) in.Fail("missing key " + Quoted(readers[i].name));
+}
+
+// Writing.
+
+/// Appends a value; a codec whose text depends on the record around the value is told the record.
+template <class T, class Owner>
+void WriteValue(std::string& out, T const& value, Owner const& owner) {
+  if constexpr (requires { Codec<T>::Write(out, value, owner); })
+    Codec<T>::Write(out, value, owner);
+  else
+    Codec<T>::Write(out, value);
+}
+
+/// What a field is when nothing is said of it.
+template <class T>
+T const& DefaultOf() {
+  static T const kDefault{};
+  return kDefault;
+}
+
+/// Appends "name": and a comma before it where it is not the first of an object.
+inline void WriteKey(std::string& out, std::string_view name) {
+  if (out.back() != '{') out += ", ";
+  out += '"';
+  out += name;
+  out += "\": ";
+}
+
+/// Appends the fields of a record that are required or differ from their default.
+template <Described T>
+void WriteFields(std::string& out, T const& record) {
+  auto const& initial = DefaultOf<T>();
+  ForEachField<T>([&](auto const& field) {
+    auto const& value = record.*field.member;
+    if (!field.required && Same(value, initial.*field.member)) return;
+    WriteKey(out, field.name);
+    WriteValue(out, value, record);
+  });
+}
+
+// Schema.
+
+/// Adds the fields of T to the schema of an object.
+template <class Json, Described T>
+void AddFieldsToSchema(Json& schema) {
+  ForEachField<T>([&](auto const& field) {
+    using V = typename std::remove_cvref_t<decltype(field)>::Value;
+    auto entry = Codec<V>::template Schema<Json>();
+    if (field.required) {
+      schema["required"].push_back(field.name);
+    } else {
+      std::string text;
+      WriteValue(text, DefaultOf<T>().*field.member, DefaultOf<T>());
+      entry["default"] = Json::parse(text);
+    }
+    schema["properties"][std::string(field.name)] = std::move(entry);
+  });
+}
+
+template <class Json>
+Json EmptyObjectSchema() {
+  Json schema;
+  schema["type"] = "object";
+  schema["additionalProperties"] = false;
+  schema["required"] = Json::array();
+  schema["properties"] = Json::object();
+  return schema;
+}
+
+}  // namespace Tarvex::Workbench

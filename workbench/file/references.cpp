@@ -1,0 +1,157 @@
+#include "workbench/file/references.h"
+
+#include <array>
+#include <ranges>
+
+#include "store/model/registry.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+using Visit = std::function<void(ReferenceSite const&)>;
+
+/// The tables that a reference of a module may be met by; load panels count as elements.
+struct Target {
+  std::string_view stem;  ///< of the first of them, empty when there is none
+  std::function<bool(int)> exists = [](int) { return false; };
+};
+
+/// Looks targets up by module for one model.
+class Targets {
+ public:
+  explicit Targets(CZelData const& model) {
+    ForEachTable([&](auto const& row) {
+      if (row.module == CModule::None) return;
+      auto& target = m_targets[static_cast<std::size_t>(row.module)];
+      if (target.stem.empty()) target.stem = row.stem;
+      target.exists = [&model, &row, before = target.exists](int n) {
+        return (model.*row.exist)(n) || before(n);
+      };
+    });
+  }
+
+  Target const& Of(CModule::ModuleId module) const {
+    auto const i = static_cast<std::size_t>(module);
+    return i < m_targets.size() ? m_targets[i] : m_none;
+  }
+
+ private:
+  static constexpr std::size_t kModules = 512;  // above every number of a table
+
+  std::array<Target, kModules> m_targets;
+  Target m_none;
+};
+
+/// Completes a site, whose table, record and place in a list are known, and passes it on.
+struct Emitter {
+  Targets const& targets;
+  Visit const& visit;
+  ReferenceSite site;
+
+  void Emit(int value, CModule::ModuleId module) {
+    auto const& target = targets.Of(module);
+    site.value = value;
+    site.target = target.stem;
+    site.exists = value > 0 && target.exists(value);
+    visit(site);
+  }
+};
+
+/// A reference field of a record, or of a field of it.
+template <class Record>
+struct ReferenceField {
+  std::string name;
+  std::function<void(Record const&, Emitter&)> visit;
+};
+
+/// Calls visit(item) for each item of a list, and meanwhile keeps its place in the site.
+template <class List, class VisitItem>
+void ForEachItem(List const& list, Emitter& emitter, VisitItem&& visit) {
+  for (emitter.site.index = 0; auto const& item : list) {
+    visit(item);
+    ++emitter.site.index;
+  }
+  emitter.site.index = -1;
+}
+
+template <class Value, class Item>
+concept ListOf = std::ranges::range<Value> && std::same_as<std::ranges::range_value_t<Value>, Item>;
+
+template <class Value>
+concept ListOfDescribed = std::ranges::range<Value> && Described<std::ranges::range_value_t<Value>>;
+
+template <class Record>
+std::vector<ReferenceField<Record>> const& ReferenceFields();
+
+template <class Record, class Row>
+void AddReferenceFields(std::vector<ReferenceField<Record>>& fields, Row const& row) {
+  using Value = typename Row::Value;
+  auto const add = [&](std::string const& name, auto const& visit) {
+    fields.push_back({name, [row, visit](Record const& record, Emitter& emitter) {
+                        visit(record.*row.member, record, emitter);
+                      }});
+  };
+  std::string const name(row.name);
+  if constexpr (std::is_same_v<Value, int>) {
+    if (row.target == nullptr) return;
+    add(name, [row](int value, Record const& record, Emitter& emitter) {
+      emitter.Emit(value, row.target(record));
+    });
+  } else if constexpr (ListOf<Value, int>) {
+    if (row.target == nullptr) return;
+    add(name, [row](Value const& list, Record const& record, Emitter& emitter) {
+      ForEachItem(list, emitter, [&](int value) { emitter.Emit(value, row.target(record)); });
+    });
+  } else if constexpr (ListOfDescribed<Value>) {
+    for (auto const& inner : ReferenceFields<std::ranges::range_value_t<Value>>())
+      add(name + "." + inner.name, [&inner](Value const& list, Record const&, Emitter& emitter) {
+        ForEachItem(list, emitter, [&](auto const& item) { inner.visit(item, emitter); });
+      });
+  } else if constexpr (Described<Value>) {
+    for (auto const& inner : ReferenceFields<Value>())
+      add(name + "." + inner.name, [&inner](Value const& value, Record const&, Emitter& emitter) {
+        inner.visit(value, emitter);
+      });
+  }
+}
+
+/// The reference fields of a type, those of its fields included.
+template <class Record>
+std::vector<ReferenceField<Record>> const& ReferenceFields() {
+  static auto const kFields = [] {
+    std::vector<ReferenceField<Record>> fields;
+    ForEachField<Record>([&](auto const& row) { AddReferenceFields(fields, row); });
+    return fields;
+  }();
+  return kFields;
+}
+
+}  // namespace
+
+void ForEachReference(CZelData const& model, Visit const& visit) {
+  Targets const targets(model);
+  ForEachTable([&](auto const& row) {
+    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+    Emitter emitter{targets, visit, {}};
+    emitter.site.table = row.stem;
+    for (auto const& [number, record] : (model.*row.all)()) {
+      emitter.site.number = static_cast<int>(number);
+      for (auto const& field : ReferenceFields<Record>()) {
+        emitter.site.field = field.name;
+        field.visit(record, emitter);
+      }
+    }
+  });
+}
+
+std::vector<DanglingReference> FindDanglingReferences(CZelData const& model) {
+  std::vector<DanglingReference> found;
+  ForEachReference(model, [&](ReferenceSite const& site) {
+    if (site.value == 0 || site.exists || site.target.empty()) return;
+    found.push_back({std::string(site.table), site.number, std::string(site.field), site.index,
+                     site.value, std::string(site.target)});
+  });
+  return found;
+}
+
+}  // namespace Tarvex::Workbench

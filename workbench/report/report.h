@@ -1,0 +1,40 @@
+// The report of one run of a command, for readers and as JSON.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "workbench/commands/command.h"
+#include "workbench/commands/errors.h"
+#include "workbench/file/file_error.h"
+#include "workbench/report/model_changes.h"
+
+namespace Tarvex::Workbench {
+
+/// Why a run failed.
+struct Failure {
+  std::string text;  ///< without the place
+  FilePlace place;   ///< file empty where there is none
+};
+
+/// All that is known about one run of a command.
+struct Report {
+  std::string command;
+  bool changesModel = false;
+  std::string input;
+  std::string output;  ///< empty for a dry run
+  bool dryRun = false;
+  ExitCode exit = ExitCode::Done;
+  CommandResult result;
+  std::vector<TableChange> changes;
+  std::optional<Failure> failure;
+};
+
+/// What a user reads; `verbose` lists every number, otherwise long lists are cut.
+std::string ReportText(Report const& report, bool verbose);
+
+/// One JSON object with the schema "tarvex-result-1", on success and on failure.
+std::string ReportJson(Report const& report);
+
+}  // namespace Tarvex::Workbench
