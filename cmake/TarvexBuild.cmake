@@ -45,7 +45,10 @@ function(tarvex_add_library name base)
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:tarvex_options>)
-  target_link_options(${name} PRIVATE -Wl,--no-undefined)
+  # Clang's sanitizers leave their own symbols to the program.
+  if(NOT (TARVEX_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
+    target_link_options(${name} PRIVATE -Wl,--no-undefined)
+  endif()
   target_include_directories(${name} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<BUILD_INTERFACE:${generated}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tarvex>)

@@ -1,6 +1,7 @@
 // The common operations of the numbered tables. Internal to the store.
 #pragma once
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -42,8 +43,7 @@ Record& Store(PagedTable<Record>& table, int n, Record const& record, SidMode si
 template <class Record, class Visit>
 void ForEachIn(PagedTable<Record> const& table, int first, int count, Visit&& visit) {
   auto const last = static_cast<long long>(first) + count - 1;
-  for (int n = table.Next(first - 1 < 0 ? 0 : first - 1); n != 0 && n <= last; n = table.Next(n))
-    visit(n);
+  for (int n = table.Next(std::max(first, 1) - 1); n != 0 && n <= last; n = table.Next(n)) visit(n);
 }
 
 }  // namespace Tarvex::TableOps

@@ -1,20 +1,17 @@
 #include "store/select/compact_text.h"
 
+#include "store/select/list_rewrite.h"
+
 namespace Tarvex {
 
+CString CompactText(Intervals const& numbers) {
+  return Data::WriteListTokens({Data::CompactWords(numbers), {}});
+}
+
 CString CompactText(std::span<int const> numbers) {
-  constexpr std::size_t kShortestRun = 3;
-  std::wstring text;
-  for (std::size_t i = 0; i < numbers.size();) {
-    auto end = i + 1;
-    while (end < numbers.size() && numbers[end] == numbers[end - 1] + 1) ++end;
-    if (end - i < kShortestRun) end = i + 1;
-    if (!text.empty()) text += L' ';
-    text += std::to_wstring(numbers[i]);
-    if (end - i > 1) text += L" to " + std::to_wstring(numbers[end - 1]);
-    i = end;
-  }
-  return text;
+  Intervals runs;
+  for (int const number : numbers) runs.Append({number, number});
+  return CompactText(runs);
 }
 
 }  // namespace Tarvex

@@ -33,7 +33,7 @@ struct ListElement {
   std::size_t begin = 0;
   std::size_t end = 0;
 
-  bool IsRange() const { return end - begin > 2; }
+  bool IsRange() const { return item == Item::Numbers && end - begin > 1; }
 };
 
 /// Walks the elements of a list. Words that make no sense where they stand are passed over, and the

@@ -4,8 +4,12 @@
 #include <boost/dynamic_bitset.hpp>
 #include <cstdint>
 
-#include "store/export.h"
+#include "store/select/intervals.h"
 #include "store/select/reference.h"
+
+namespace Tarvex::Data {
+class CEntList;
+}
 
 namespace Tarvex::Util {
 
@@ -41,6 +45,8 @@ class TARVEX_STORE_EXPORT CSet {
   };
 
   explicit CSet(SelType kind = SelNone);
+  /// A set of what of the numbers is above 0; one above 100000000 is std::out_of_range.
+  CSet(SelType kind, Intervals const& numbers);
   CSet(CSet const&);
   CSet(CSet&&) noexcept;
   CSet& operator=(CSet const&);
@@ -50,8 +56,13 @@ class TARVEX_STORE_EXPORT CSet {
   SelType TypeOf() const { return m_kind; }
   /// Adds a number; adding one below 1 or above 100000000 is std::out_of_range.
   void AddTo(int number);
+  /// Adds what a list of plain numbers and ranges names. "all" and "*" go up to the highest number
+  /// that is given; words that need a model add nothing, Util::MakeSet is there for them.
+  void AddListToSet(Data::CEntList const& list, int highest);
   /// Takes a number out; one that is not in the set is no fault.
   void RemoveFrom(int number);
+  /// Puts in what is missing of the numbers first to last, and takes out what is there of them.
+  void Invert(int first, int last);
   bool IsEmpty() const { return m_bits.none(); }
   /// Whether the number is in the set; false for any number below 1.
   virtual bool IsItemIncluded(int number) const;
@@ -59,6 +70,13 @@ class TARVEX_STORE_EXPORT CSet {
   int LowestItem() const;
   int HighestItem() const;
   int NumItem() const { return static_cast<int>(m_bits.count()); }
+
+  /// The numbers as the text of a list: runs of three or more as "a to b", all else singly.
+  /// @param most so many numbers at most, with " ..." behind them where there are more; -1 for all.
+  /// @param before goes before the text.
+  CString String(int most = -1, CString const& before = L"") const;
+  /// The numbers as runs.
+  Intervals Runs() const;
 
   Iterator begin() const { return {m_bits, m_bits.find_first()}; }
   Iterator end() const { return {m_bits, Bits::npos}; }
@@ -68,6 +86,7 @@ class TARVEX_STORE_EXPORT CSet {
 
  private:
   bool IsEqual(CSet const& other) const;
+  void Add(Interval run);
 
   SelType m_kind;
   Bits m_bits;  // bit n for number n; bit 0 is never set

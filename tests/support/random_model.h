@@ -76,7 +76,8 @@ void ForEachRandomModel(int count, Visit&& visit) {
   for (int i = 0; i < count; ++i, ++seed) {
     SCOPED_TRACE("RandomModel(" + std::to_string(seed) + "u)");
     Random random(seed);
-    visit(RandomModel(seed), random);
+    CZelData model = RandomModel(seed);
+    visit(model, random);
     if (::testing::Test::HasFatalFailure()) return;
   }
 }

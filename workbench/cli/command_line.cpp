@@ -15,8 +15,15 @@ struct Values {
   std::vector<std::pair<CLI::Option*, std::string>> given;
 };
 
-void AddOwnOptions(CLI::App& app, Command const& command, Values& values) {
+bool IsFile(ValueKind kind) {
+  return kind == ValueKind::FileBefore || kind == ValueKind::FileBehind;
+}
+
+/// Adds the options of a command that pass a test.
+template <class Test>
+void AddOwnOptions(CLI::App& app, Command const& command, Values& values, Test&& test) {
   for (auto const& option : command.options) {
+    if (!test(option.kind)) continue;
     std::string const name(option.name);
     std::string const help(option.help);
     if (option.kind == ValueKind::Flag) {
@@ -28,6 +35,7 @@ void AddOwnOptions(CLI::App& app, Command const& command, Values& values) {
     auto* added = app.add_option(name, text, help)->expected(1);
     added->type_name(std::string(option.value));
     if (!option.preset.empty()) added->default_str(std::string(option.preset));
+    if (IsFile(option.kind)) added->required();
     values.given.emplace_back(added, name);
   }
 }
@@ -60,8 +68,9 @@ void AddCommonOptions(CLI::App& app, CommandKind kind, Invocation& invocation) {
 /// One line for a fault of the command line.
 std::string Explain(CLI::ParseError const& fault) {
   std::string const what = fault.what();
-  if (fault.get_name() == "RequiredError" && what.starts_with("MODEL"))
-    return "the model file is missing";
+  if (fault.get_name() == "RequiredError")
+    return what.starts_with("MODEL") ? "the model file is missing"
+                                     : "the file " + what.substr(0, what.find(' ')) + " is missing";
   return what.substr(0, what.find('\n'));
 }
 
@@ -107,8 +116,10 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
     if (command.name != word) continue;
     chosen = sub;
     invocation.command = &command;
-    AddOwnOptions(*sub, command, values);
+    // Files without an option word are read in the order in which they are added here.
+    AddOwnOptions(*sub, command, values, [](auto kind) { return kind == ValueKind::FileBefore; });
     AddCommonOptions(*sub, command.kind, invocation);
+    AddOwnOptions(*sub, command, values, [](auto kind) { return kind != ValueKind::FileBefore; });
   }
   if (!word.empty() && chosen == nullptr) FindCommand(word);
   try {
@@ -126,6 +137,22 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
   invocation.arguments = TakeArguments(*invocation.command, values);
   if (invocation.command->kind == CommandKind::Changes) CheckDestination(invocation);
   return invocation;
+}
+
+RecipeStep ParseRecipeLine(std::vector<std::string> const& words) {
+  auto const& command = FindCommand(words.at(0));
+  if (command.kind == CommandKind::Alone || command.name == kRecipeCommand)
+    throw UsageError("a recipe can't hold '" + words[0] + "'");
+  CLI::App app("", words[0]);
+  app.set_help_flag();
+  Values values;
+  AddOwnOptions(app, command, values, [](auto) { return true; });
+  try {
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend() - 1));
+  } catch (CLI::ParseError const& fault) {
+    throw UsageError(Explain(fault));
+  }
+  return {&command, TakeArguments(command, values)};
 }
 
 bool AsksForJson(std::vector<std::string> const& words) {

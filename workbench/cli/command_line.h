@@ -30,6 +30,16 @@ struct Invocation {
   ColourMode colour = ColourMode::Auto;
 };
 
+/// One line of a recipe: a command with its own options.
+struct RecipeStep {
+  Command const* command = nullptr;
+  Arguments arguments;
+};
+
+/// Reads the words of one line of a recipe. Throws UsageError, also for a command that a recipe
+/// can't hold: one that takes no model, or a recipe.
+RecipeStep ParseRecipeLine(std::vector<std::string> const& words);
+
 /// Reads the words behind the program's name. Throws UsageError with one line of text.
 Invocation ParseCommandLine(std::vector<std::string> const& words);
 

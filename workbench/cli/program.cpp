@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "store/model/undo_step.h"
 #include "workbench/cli/command_line.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/model_reader.h"
@@ -45,6 +46,8 @@ void RunCommand(Invocation const& invocation, CZelData& model, Report& report) {
     invocation.command->run(model, invocation.arguments, report.result);
   } catch (UsageError const&) {
     throw;
+  } catch (FileError const&) {
+    throw;
   } catch (std::exception const& fault) {
     throw Refusal(fault.what());  // an exception of the tool: nothing is written
   }
@@ -66,7 +69,9 @@ void Run(Invocation const& invocation, Report& report) {
     CheckReferences(invocation, model, report.result);
   }
   CZelData const before(model);
+  CUndoStep step(model);
   RunCommand(invocation, model, report);
+  step.Accept();
   if (report.changesModel) {
     report.changes = FindChanges(before, model);
     if (invocation.inPlace)
@@ -74,7 +79,7 @@ void Run(Invocation const& invocation, Report& report) {
     else if (!invocation.dryRun)
       WriteModel(model, invocation.output);
   }
-  report.exit = report.result.undone.empty() ? ExitCode::Done : ExitCode::LookAt;
+  report.exit = report.result.Exit();
 }
 
 /// Runs and turns every way to fail into the report's failure and exit code.

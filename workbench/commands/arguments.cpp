@@ -40,6 +40,8 @@ void Check(Option const& option, std::string const& text) {
   switch (option.kind) {
     case ValueKind::Flag:
     case ValueKind::Text:
+    case ValueKind::FileBefore:
+    case ValueKind::FileBehind:
       return;
     case ValueKind::Integer:
       return CheckNumber<int>(option, text, "a whole number");

@@ -12,11 +12,20 @@
 #include <vector>
 
 #include "store/model/zel_data.h"
+#include "workbench/commands/errors.h"
 
 namespace Tarvex::Workbench {
 
 /// What the value of an option is.
-enum class ValueKind { Flag, Text, Integer, Number, Choice };
+enum class ValueKind {
+  Flag,
+  Text,
+  Integer,
+  Number,
+  Choice,
+  FileBefore,  ///< a file named before the model, without an option word
+  FileBehind,  ///< a file named behind the model
+};
 
 /// One option of a command.
 struct Option {
@@ -69,14 +78,19 @@ struct ToleranceUsed {
 
 /// What a command reports beside the changes of the model.
 struct CommandResult {
-  bool did = false;  ///< the tool's own result
+  bool did = false;     ///< the tool's own result
+  bool lookAt = false;  ///< whether there is something to look at, beside what was left undone
   std::vector<std::string> messages;
   std::vector<Undone> undone;
   std::vector<Warning> warnings;
   std::vector<ToleranceUsed> tolerances;
   /// What this command alone has; for a command that changes nothing, all of its data.
   std::shared_ptr<nlohmann::ordered_json const> result;
+  /// The data of each command that this one ran, for a recipe.
+  std::shared_ptr<nlohmann::ordered_json const> steps;
   std::string text;  ///< the result for a reader, whole lines
+
+  ExitCode Exit() const { return lookAt || !undone.empty() ? ExitCode::LookAt : ExitCode::Done; }
 };
 
 /// What a command does with a model file.
@@ -94,6 +108,9 @@ struct Command {
   CommandKind kind;
   void (*run)(CZelData& model, Arguments const& arguments, CommandResult& result);
 };
+
+/// Name of the command that runs a recipe.
+inline constexpr std::string_view kRecipeCommand = "run";
 
 /// All commands, in the order of help.
 std::span<Command const> Commands();

@@ -1,7 +1,8 @@
 #include "workbench/commands/command.h"
 #include "workbench/commands/errors.h"
-#include "workbench/commands/info.h"
+#include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
+#include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 
 namespace Tarvex::Workbench {
@@ -9,7 +10,8 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InfoCommands(), OrientationCommands(), ReferenceCommands()})
+  for (auto const& family :
+       {InspectCommands(), OrientationCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }

@@ -25,6 +25,8 @@ std::map<int, int> CountTypes(CZelData const& model) {
   return counts;
 }
 
+}  // namespace
+
 void Info(CZelData& model, Arguments const&, CommandResult& result) {
   Json tables = Json::object();
   std::string text = "table        records    highest\n";
@@ -59,15 +61,5 @@ void Info(CZelData& model, Arguments const&, CommandResult& result) {
   result.text = text;
   result.did = true;
 }
-
-constexpr std::array kCommands{Command{"info",
-                                       "say what a model holds: tables, element types, extents",
-                                       {},
-                                       CommandKind::Reads,
-                                       &Info}};
-
-}  // namespace
-
-std::span<Command const> InfoCommands() { return kCommands; }
 
 }  // namespace Tarvex::Workbench

@@ -1,12 +1,11 @@
-// The command that tells what a model holds.
+// What a model holds.
 #pragma once
-
-#include <span>
 
 #include "workbench/commands/command.h"
 
 namespace Tarvex::Workbench {
 
-std::span<Command const> InfoCommands();
+/// Reports the number of records by table, elements by type, and the box of the nodes.
+void Info(CZelData& model, Arguments const& arguments, CommandResult& result);
 
 }  // namespace Tarvex::Workbench

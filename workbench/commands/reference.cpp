@@ -10,8 +10,15 @@ namespace {
 
 std::string Usage(Command const& command) {
   auto text = "    tarvex " + std::string(command.name);
+  for (auto const& option : command.options)
+    if (option.kind == ValueKind::FileBefore) text += " " + std::string(option.name);
   if (command.kind != CommandKind::Alone) text += " MODEL";
   for (auto const& option : command.options) {
+    if (option.kind == ValueKind::FileBefore) continue;
+    if (option.kind == ValueKind::FileBehind) {
+      text += " " + std::string(option.name);
+      continue;
+    }
     text += " [" + std::string(option.name);
     if (option.kind != ValueKind::Flag) text += " " + std::string(option.value);
     text += "]";
@@ -28,7 +35,7 @@ std::string Cell(std::string_view text) {
 }
 
 std::string OptionRow(Option const& option) {
-  auto const value = option.kind == ValueKind::Flag ? "" : " " + std::string(option.value);
+  auto const value = option.value.empty() ? "" : " " + std::string(option.value);
   auto const preset = option.preset.empty() ? "" : "`" + std::string(option.preset) + "`";
   return "| `" + std::string(option.name) + Cell(value) + "` | " + preset + " | " +
          Cell(option.help) + " |\n";

@@ -74,8 +74,9 @@ class Reader {
     unsigned code = *first;
     std::size_t size = 6;
     if (IsHigh(code)) {
-      auto const second =
-          m_json.substr(m_at + size).starts_with("\\u") ? Code(m_at + size) : std::optional(0u);
+      auto const rest = m_json.substr(m_at + size);
+      if (rest.empty() || rest == "\\") return FailAtEnd();
+      auto const second = rest.starts_with("\\u") ? Code(m_at + size) : std::optional(0u);
       if (!second) return;
       if (!IsLow(*second)) return Fail(kHalf);
       code = 0x10000 + ((code - kHighFirst) << 10) + (*second - kLowFirst);

@@ -1,6 +1,7 @@
 // The report of one run of a command, for readers and as JSON.
 #pragma once
 
+#include <nlohmann/json_fwd.hpp>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,6 +31,13 @@ struct Report {
   std::vector<TableChange> changes;
   std::optional<Failure> failure;
 };
+
+/// Changes by table, as lines and as JSON.
+std::string ChangesText(std::vector<TableChange> const& changes, bool verbose);
+nlohmann::ordered_json ChangesJson(std::vector<TableChange> const& changes);
+
+/// The data of a report: for a command that changes the model what it changed, else its own.
+nlohmann::ordered_json DataJson(Report const& report);
 
 /// What a user reads; `verbose` lists every number, otherwise long lists are cut.
 std::string ReportText(Report const& report, bool verbose);

@@ -7,14 +7,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Json Changes(std::vector<TableChange> const& changes) {
-  Json json = Json::object();
-  for (auto const& change : changes)
-    json[std::string(change.table)] = {
-        {"added", change.added}, {"removed", change.removed}, {"changed", change.changed}};
-  return json;
-}
-
 Json Undones(std::vector<Undone> const& undone) {
   Json json = Json::array();
   for (auto const& item : undone)
@@ -41,23 +33,6 @@ Json Warnings(std::vector<Warning> const& warnings) {
   return json;
 }
 
-Json Data(Report const& report) {
-  auto const& result = report.result;
-  Json const own = result.result == nullptr ? Json::object() : *result.result;
-  if (!report.changesModel) return own;
-  return {{"input", report.input},
-          {"output", report.output.empty() ? Json() : Json(report.output)},
-          {"dryRun", report.dryRun},
-          {"did", result.did},
-          {"changes", Changes(report.changes)},
-          {"maps", Json::object()},
-          {"messages", result.messages},
-          {"undone", Undones(result.undone)},
-          {"totals", Json::array()},
-          {"tolerances", Tolerances(result.tolerances)},
-          {"result", own}};
-}
-
 Json Error(Failure const& failure) {
   Json json{{"text", failure.text}};
   auto const& place = failure.place;
@@ -70,6 +45,34 @@ Json Error(Failure const& failure) {
 
 }  // namespace
 
+Json ChangesJson(std::vector<TableChange> const& changes) {
+  Json json = Json::object();
+  for (auto const& change : changes)
+    json[std::string(change.table)] = {
+        {"added", change.added}, {"removed", change.removed}, {"changed", change.changed}};
+  return json;
+}
+
+Json DataJson(Report const& report) {
+  auto const& result = report.result;
+  Json const own = result.result == nullptr ? Json::object() : *result.result;
+  if (!report.changesModel) return own;
+  auto const orNull = [](std::string const& text) { return text.empty() ? Json() : Json(text); };
+  Json json{{"input", orNull(report.input)},
+            {"output", orNull(report.output)},
+            {"dryRun", report.dryRun},
+            {"did", result.did},
+            {"changes", ChangesJson(report.changes)},
+            {"maps", Json::object()},
+            {"messages", result.messages},
+            {"undone", Undones(result.undone)},
+            {"totals", Json::array()},
+            {"tolerances", Tolerances(result.tolerances)},
+            {"result", own}};
+  if (result.steps != nullptr) json["steps"] = *result.steps;
+  return json;
+}
+
 std::string ReportJson(Report const& report) {
   Json json{{"schema", "tarvex-result-1"},       {"tool", "tarvex"},
             {"version", TARVEX_VERSION},         {"command", report.command},
@@ -77,7 +80,7 @@ std::string ReportJson(Report const& report) {
   if (report.failure)
     json["error"] = Error(*report.failure);
   else
-    json["data"] = Data(report);
+    json["data"] = DataJson(report);
   json["warnings"] = Warnings(report.result.warnings);
   // Text that came from a command line may be no UTF-8.
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";

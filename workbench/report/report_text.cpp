@@ -36,6 +36,16 @@ std::string UndoneLines(std::vector<Undone> const& undone, bool verbose) {
 
 }  // namespace
 
+std::string ChangesText(std::vector<TableChange> const& changes, bool verbose) {
+  std::string text;
+  for (auto const& change : changes) {
+    text += ChangeLine(change.table, "added", change.added, verbose);
+    text += ChangeLine(change.table, "removed", change.removed, verbose);
+    text += ChangeLine(change.table, "changed", change.changed, verbose);
+  }
+  return text;
+}
+
 std::string ReportText(Report const& report, bool verbose) {
   auto const& result = report.result;
   auto text = result.text;
@@ -43,11 +53,7 @@ std::string ReportText(Report const& report, bool verbose) {
   text += report.command + (report.changes.empty() ? ": nothing changed" : ":");
   if (report.dryRun) text += " (dry run)";
   text += "\n";
-  for (auto const& change : report.changes) {
-    text += ChangeLine(change.table, "added", change.added, verbose);
-    text += ChangeLine(change.table, "removed", change.removed, verbose);
-    text += ChangeLine(change.table, "changed", change.changed, verbose);
-  }
+  text += ChangesText(report.changes, verbose);
   for (auto const& message : result.messages) text += "  " + message + "\n";
   text += UndoneLines(result.undone, verbose);
   for (auto const& tolerance : result.tolerances)

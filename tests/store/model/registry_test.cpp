@@ -1,0 +1,336 @@
+// The wiring of all tables: each operation of each table does what its name says, in that table
+// and in no other. The rows are written out here; the registry must have the same.
+#include "store/model/registry.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "tests/support/builders.h"
+#include "tests/support/matchers.h"
+
+namespace Tarvex {
+namespace {
+
+using Testing::Differences;
+using Testing::IsUnchanged;
+using Testing::OutOfRangeText;
+
+template <class R>
+using WholeTable = tarvex_unordered_map<unsigned int, R>;
+
+/// One table: its operations by name, and two records that differ.
+template <class R>
+struct Row {
+  std::string stem;
+  int module;
+  R a;
+  R b;
+  bool (*exist)(CZelData const&, int);
+  R const& (*get)(CZelData const&, int);
+  WholeTable<R> const& (*all)(CZelData const&);
+  int (*highest)(CZelData const&);
+  void (*set)(CZelData&, int, R const&, SidMode);
+  void (*blank)(CZelData&, int, int);
+};
+
+using Data::CAxis;
+using Data::CElement;
+using Data::CNode;
+using Data::LoadPanel;
+
+template <class R>
+R WithSid(R record) {
+  record.SetSid(L"id");
+  return record;
+}
+
+auto Rows() {
+  return std::tuple{
+      Row<CNode>{"Node", 80, WithSid(CNode({1, 2, 3}, 0, Vbool6())), CNode({4, 5, 6}, 0, Vbool6()),
+                 [](CZelData const& m, int n) { return m.NodeExist(n); },
+                 [](CZelData const& m, int n) -> CNode const& { return m.Node(n); },
+                 [](CZelData const& m) -> WholeTable<CNode> const& { return m.Node(); },
+                 [](CZelData const& m) { return m.HighestNode(); },
+                 [](CZelData& m, int n, CNode const& r, SidMode s) { m.SetNode(n, r, s); },
+                 [](CZelData& m, int first, int count) { m.BlankNode(first, count); }},
+      Row<CElement>{"Elem", 110, WithSid(Testing::Element(ElementType::Beam, {1, 2})),
+                    Testing::Element(ElementType::Tri3, {1, 2, 3}),
+                    [](CZelData const& m, int n) { return m.ElemExist(n); },
+                    [](CZelData const& m, int n) -> CElement const& { return m.Elem(n); },
+                    [](CZelData const& m) -> WholeTable<CElement> const& { return m.Elem(); },
+                    [](CZelData const& m) { return m.HighestElem(); },
+                    [](CZelData& m, int n, CElement const& r, SidMode s) { m.SetElem(n, r, s); },
+                    [](CZelData& m, int first, int count) { m.BlankElem(first, count); }},
+      Row<LoadPanel>{
+          "LoadPanel", 110, WithSid(Testing::Panel({1, 2, 3})), Testing::Panel({4, 5, 6, 7}),
+          [](CZelData const& m, int n) { return m.LoadPanelExist(n); },
+          [](CZelData const& m, int n) -> LoadPanel const& { return m.LoadPanel(n); },
+          [](CZelData const& m) -> WholeTable<LoadPanel> const& { return m.LoadPanels(); },
+          [](CZelData const& m) { return m.HighestLoadPanel(); },
+          [](CZelData& m, int n, LoadPanel const& r, SidMode s) { m.SetLoadPanel(n, r, s); },
+          [](CZelData& m, int first, int count) { m.BlankLoadPanel(first, count); }},
+      Row<CAxis>{"Axis", 20, WithSid(CAxis(L"a", AxisType::Cartesian, {}, {1, 0, 0}, {0, 1, 0})),
+                 CAxis(L"b", AxisType::Spherical, {}, {1, 0, 0}, {0, 1, 0}),
+                 [](CZelData const& m, int n) { return m.AxisExist(n); },
+                 [](CZelData const& m, int n) -> CAxis const& { return m.Axis(n); },
+                 [](CZelData const& m) -> WholeTable<CAxis> const& { return m.Axis(); },
+                 [](CZelData const& m) { return m.HighestAxis(); },
+                 [](CZelData& m, int n, CAxis const& r, SidMode s) { m.SetAxis(n, r, s); },
+                 [](CZelData& m, int first, int count) { m.BlankAxis(first, count); }},
+  };
+}
+
+/// Calls check(row, model) for each table with a model that holds something in every other one.
+template <class Check>
+void ForEachRow(Check&& check) {
+  auto const rows = Rows();
+  auto const run = [&](auto const& row) {
+    SCOPED_TRACE(row.stem);
+    CZelData model;
+    auto const fill = [&](auto const& other) {
+      if (other.stem != row.stem)
+        other.set(model, 51 + int(other.stem.size()), other.b, SidMode::Keep);
+    };
+    std::apply([&](auto const&... other) { (fill(other), ...); }, rows);
+    check(row, model);
+  };
+  std::apply([&](auto const&... row) { (run(row), ...); }, rows);
+}
+
+TEST(Registry, HasExactlyTheTablesOfThisTest) {
+  std::vector<std::string> expected;
+  ForEachRow([&](auto const& row, CZelData&) {
+    expected.push_back(row.stem + " " + std::to_string(row.module));
+  });
+  std::vector<std::string> found;
+  ForEachTable([&](auto const& row) {
+    found.push_back(std::string(row.stem) + " " + std::to_string(row.module));
+    EXPECT_EQ(row.shape, TableShape::Sparse);
+    EXPECT_EQ(row.removal, RemovalForm::Blank);
+  });
+  EXPECT_EQ(found, expected);
+}
+
+TEST(Registry, HasExactlyTheOneOffRecordsOfThisTest) {
+  std::vector<std::string> found;
+  ForEachOneOff([&](auto const& row) { found.emplace_back(row.stem); });
+  EXPECT_EQ(found, (std::vector<std::string>{"Spec", "Defaults"}));
+}
+
+TEST(Registry, LeadsToTheOperationsOfItsTables) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    using R = std::remove_cvref_t<decltype(row.a)>;
+    int met = 0;
+    ForEachTable([&](auto const& registered) {
+      if constexpr (std::is_same_v<typename std::remove_cvref_t<decltype(registered)>::Record, R>) {
+        ++met;
+        (model.*registered.set)(90, row.a, SidMode::Keep);
+        EXPECT_EQ(row.get(model, 90), row.a);
+        EXPECT_TRUE((model.*registered.exist)(90));
+        EXPECT_EQ(&(model.*registered.get)(90), &row.get(model, 90));
+        EXPECT_EQ(&(model.*registered.all)(), &row.all(model));
+        EXPECT_EQ((model.*registered.highest)(), 90);
+        (model.*registered.remove)(90, 1);
+        EXPECT_FALSE(row.exist(model, 90));
+      }
+    });
+    EXPECT_EQ(met, 1);
+  });
+}
+
+TEST(Tables, StoreReadAndRemoveARecordAndTouchNoOtherTable) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    CZelData const before(model);
+    EXPECT_EQ(row.all(model).size(), 0u);
+    row.set(model, 3, row.a, SidMode::Keep);
+    EXPECT_EQ(Differences(model, before), std::vector<std::string>{row.stem + " 3: came"});
+    EXPECT_TRUE(row.exist(model, 3));
+    EXPECT_FALSE(row.exist(model, 2));
+    EXPECT_EQ(row.get(model, 3), row.a);
+    EXPECT_EQ(row.get(model, 3).Number(), 3u);
+    EXPECT_EQ(row.all(model).size(), 1u);
+    EXPECT_EQ(&row.all(model).at(3), &row.get(model, 3));
+    row.blank(model, 3, 1);
+    EXPECT_FALSE(row.exist(model, 3));
+    EXPECT_TRUE(IsUnchanged(model, before));
+  });
+}
+
+TEST(Tables, AreEmptyAtFirst) {
+  ForEachRow([](auto const& row, CZelData&) {
+    CZelData const model;
+    EXPECT_EQ(row.highest(model), 0);
+    EXPECT_TRUE(row.all(model).empty());
+    EXPECT_FALSE(row.exist(model, 0));
+    EXPECT_FALSE(row.exist(model, 1));
+  });
+}
+
+TEST(Tables, ReplaceTheRecordOfANumber) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    row.set(model, 3, row.a, SidMode::Keep);
+    row.set(model, 3, row.b, SidMode::Keep);
+    EXPECT_EQ(row.get(model, 3), row.b);
+    EXPECT_EQ(row.all(model).size(), 1u);
+  });
+}
+
+TEST(Tables, KnowTheirHighestNumber) {
+  ForEachRow([](auto const& row, CZelData&) {
+    CZelData model;
+    for (int const n : {7, 500, 3}) row.set(model, n, row.a, SidMode::Keep);
+    EXPECT_EQ(row.highest(model), 500);
+    row.blank(model, 500, 1);
+    EXPECT_EQ(row.highest(model), 7);
+    row.set(model, 100000000, row.a, SidMode::Keep);
+    EXPECT_EQ(row.highest(model), 100000000);
+  });
+}
+
+TEST(Tables, WalkInAscendingNumber) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    for (int const n : {700, 5, 64, 65}) row.set(model, n, row.a, SidMode::Keep);
+    std::vector<unsigned int> numbers;
+    for (auto const& [n, record] : row.all(model)) {
+      EXPECT_EQ(record, row.a);
+      numbers.push_back(n);
+    }
+    EXPECT_EQ(numbers, (std::vector{5u, 64u, 65u, 700u}));
+  });
+}
+
+TEST(Tables, NameTableAndNumberOfAMissingRecord) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    for (int const n : {7, -1, INT_MAX})
+      EXPECT_EQ(OutOfRangeText([&] { row.get(model, n); }),
+                row.stem + " " + std::to_string(n) + " does not exist");
+  });
+}
+
+TEST(Tables, RefuseNumbersBelowOneAndAboveTheHighest) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    CZelData const before(model);
+    for (int const n : {0, -1, INT_MIN, 100000001, INT_MAX})
+      EXPECT_THROW(row.set(model, n, row.a, SidMode::Keep), std::out_of_range) << n;
+    EXPECT_TRUE(IsUnchanged(model, before));
+  });
+}
+
+TEST(Tables, BlankARangeAndLeaveHoles) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    for (int const n : {1, 2, 4, 5, 9}) row.set(model, n, row.a, SidMode::Keep);
+    row.blank(model, 2, 3);  // 2 to 4
+    std::string left;
+    for (int n = 0; n <= 10; ++n) left += row.exist(model, n) ? '1' : '0';
+    EXPECT_EQ(left, "01000100010");
+    row.blank(model, -5, 7);  // -5 to 1
+    EXPECT_FALSE(row.exist(model, 1));
+    row.blank(model, 5, INT_MAX);
+    EXPECT_TRUE(row.all(model).empty());
+  });
+}
+
+TEST(Tables, BlankNothingForACountBelowOne) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    row.set(model, 1, row.a, SidMode::Keep);
+    row.set(model, 2, row.a, SidMode::Keep);
+    CZelData const before(model);
+    for (int const count : {0, -1, INT_MIN}) row.blank(model, 2, count);
+    row.blank(model, 0, 1);
+    row.blank(model, 3, INT_MAX);
+    row.blank(model, INT_MIN, 5);
+    row.blank(model, INT_MIN, -5);
+    EXPECT_TRUE(IsUnchanged(model, before));
+  });
+}
+
+TEST(Tables, StoreARecordOfTheirOwnUnderAnotherNumber) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    row.set(model, 4, row.a, SidMode::Keep);
+    row.set(model, 5, row.get(model, 4), SidMode::Keep);
+    EXPECT_EQ(row.get(model, 5), row.a);
+    EXPECT_EQ(row.get(model, 5).Number(), 5u);
+    EXPECT_EQ(row.get(model, 4).Number(), 4u);
+    auto const snapshot = model.Snapshot();  // now the store clones the page of the record
+    row.set(model, 6, row.get(model, 4), SidMode::Keep);
+    row.set(model, 4, row.get(model, 4), SidMode::Keep);
+    row.set(model, 400, row.get(model, 4), SidMode::Drop);
+    EXPECT_EQ(row.get(model, 6), row.a);
+    EXPECT_EQ(row.get(model, 4), row.a);
+    EXPECT_EQ(row.get(model, 400).Sid(), L"");
+    EXPECT_FALSE(row.exist(*snapshot, 6));
+  });
+}
+
+TEST(Tables, StoreWithOrWithoutTheIdentifier) {
+  ForEachRow([](auto const& row, CZelData& model) {
+    row.set(model, 1, row.a, SidMode::Keep);
+    EXPECT_EQ(row.get(model, 1).Sid(), L"id");
+    row.set(model, 1, row.a, SidMode::Drop);
+    EXPECT_EQ(row.get(model, 1).Sid(), L"");
+    auto expected = row.a;
+    expected.SetSid(L"");
+    EXPECT_EQ(row.get(model, 1), expected);
+  });
+}
+
+TEST(Modules, AnswerForTheirTable) {
+  ForEachRow([](auto const& row, CZelData&) {
+    CZelData model;
+    auto const module = static_cast<CModule::ModuleId>(row.module);
+    EXPECT_EQ(model.HighestRecord(module), 0);
+    row.set(model, 3, row.a, SidMode::Keep);
+    EXPECT_EQ(model.HighestRecord(module), 3);
+    EXPECT_EQ(model.RecordExist(module, 3), row.stem != "LoadPanel");
+    EXPECT_FALSE(model.RecordExist(module, 2));
+    EXPECT_FALSE(model.RecordExist(module, -1));
+    model.RemoveModule(module);
+    EXPECT_TRUE(row.all(model).empty());
+    EXPECT_EQ(model.HighestRecord(module), 0);
+  });
+}
+
+TEST(Modules, EmptyTheirOwnTablesOnly) {
+  for (auto const& [module, gone] :
+       {std::pair{80, "Node"}, {110, "Elem LoadPanel"}, {20, "Axis"}}) {
+    CZelData model;
+    ForEachRow([&](auto const& row, CZelData&) {
+      row.set(model, row.stem == "LoadPanel" ? 4 : 3, row.b, SidMode::Keep);
+      row.set(model, row.stem == "LoadPanel" ? 100000000 : 99999, row.b, SidMode::Keep);
+    });
+    model.RemoveModule(static_cast<CModule::ModuleId>(module));
+    ForEachRow([&, names = std::string(gone)](auto const& row, CZelData&) {
+      bool const isGone = (" " + names + " ").find(" " + row.stem + " ") != std::string::npos;
+      EXPECT_EQ(row.all(model).size(), isGone ? 0u : 2u);
+    });
+  }
+}
+
+TEST(Modules, AreOneRowEach) {
+  std::vector<int> modules;
+  for (auto const& row : Modules()) modules.push_back(row.module);
+  EXPECT_EQ(modules, (std::vector{80, 110, 20}));
+  for (int const module : modules) {
+    auto const* row = FindModule(static_cast<CModule::ModuleId>(module));
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(static_cast<int>(row->module), module);
+  }
+}
+
+TEST(Modules, WithoutATableAreEmpty) {
+  CZelData model;
+  Testing::Grid(model, 2, 2);
+  CZelData const before(model);
+  for (auto const module :
+       {CModule::None, static_cast<CModule::ModuleId>(0), static_cast<CModule::ModuleId>(9999)}) {
+    EXPECT_EQ(FindModule(module), nullptr);
+    EXPECT_FALSE(model.RecordExist(module, 1));
+    EXPECT_EQ(model.HighestRecord(module), 0);
+    model.RemoveModule(module);
+  }
+  EXPECT_TRUE(IsUnchanged(model, before));
+}
+
+}  // namespace
+}  // namespace Tarvex

@@ -1,0 +1,114 @@
+#include "workbench/file/references.h"
+
+#include <gtest/gtest.h>
+
+#include "store/record/axis.h"
+#include "store/record/node.h"
+#include "tests/support/builders.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+using Testing::Element;
+using Testing::Panel;
+
+std::string Text(ReferenceSite const& site) {
+  return std::string(site.table) + " " + std::to_string(site.number) + " " +
+         std::string(site.field) + " " + std::to_string(site.index) + ": " +
+         std::to_string(site.value) + " " + std::string(site.target) +
+         (site.exists ? " exists" : "");
+}
+
+std::vector<std::string> Sites(CZelData const& model) {
+  std::vector<std::string> sites;
+  ForEachReference(model, [&](ReferenceSite const& site) { sites.push_back(Text(site)); });
+  return sites;
+}
+
+TEST(ForEachReference, NamesEveryReferenceOfANode) {
+  CZelData model;
+  model.SetAxis(4, Data::CAxis());
+  Data::CNode node({}, 4, Vbool6());
+  node.SetSpringProperty(5);
+  model.SetNode(7, node);
+  EXPECT_EQ(Sites(model), (std::vector<std::string>{
+                              "Node 7 axis -1: 4 Axis exists",
+                              "Node 7 springProperty -1: 5 ",
+                              "Node 7 massProperty -1: 0 ",
+                              "Node 7 damperProperty -1: 0 ",
+                          }));
+}
+
+TEST(ForEachReference, NamesEveryReferenceOfElementsAndPanels) {
+  CZelData model;
+  model.CreateNode(2, {}, 0, Vbool6());
+  auto beam = Element(ElementType::Beam, {2, 9});
+  beam.SetProperty(3);
+  beam.SetOrientationNode(2);
+  beam.SetParentMember({6, 1});
+  model.SetElem(1, beam);
+  model.SetLoadPanel(8, Panel({2}));
+  std::vector<std::string> const all{
+      "Node 2 axis -1: 0 Axis",
+      "Node 2 springProperty -1: 0 ",
+      "Node 2 massProperty -1: 0 ",
+      "Node 2 damperProperty -1: 0 ",
+      "Elem 1 property -1: 3 ",
+      "Elem 1 topology 0: 2 Node exists",
+      "Elem 1 topology 1: 9 Node",
+      "Elem 1 orientationNode -1: 2 Node exists",
+      "Elem 1 parentMember.member -1: 6 ",
+      "LoadPanel 8 property -1: 1 ",
+      "LoadPanel 8 topology 0: 2 Node exists",
+      "LoadPanel 8 parentMember.member -1: 0 ",
+  };
+  EXPECT_EQ(Sites(model), all);
+}
+
+TEST(FindDanglingReferences, FindsNothingInAWholeModel) {
+  CZelData model;
+  Testing::Grid(model, 2, 2);
+  EXPECT_TRUE(FindDanglingReferences(model).empty());
+}
+
+TEST(FindDanglingReferences, FindsWhatNamesAMissingRecord) {
+  CZelData model;
+  Testing::Grid(model, 1, 1);  // nodes 1 to 4, element 1: 1 2 4 3
+  model.SetNodeAxis(2, 5);
+  model.SetElemOrientNode(1, 60);
+  model.SetLoadPanel(9, Panel({1, 70, 2}));
+  model.BlankNode(4, 1);
+  std::vector<DanglingReference> const expected{
+      {"Node", 2, "axis", -1, 5, "Axis"},
+      {"Elem", 1, "topology", 2, 4, "Node"},
+      {"Elem", 1, "orientationNode", -1, 60, "Node"},
+      {"LoadPanel", 9, "topology", 1, 70, "Node"},
+  };
+  EXPECT_EQ(FindDanglingReferences(model), expected);
+}
+
+TEST(FindDanglingReferences, CountsNumbersBelowZeroAndPassesOverZero) {
+  CZelData model;
+  model.CreateNode(1, {}, -3, Vbool6());
+  model.SetElem(1, Element(ElementType::Beam, {0, 1, -1}));
+  std::vector<DanglingReference> const expected{
+      {"Node", 1, "axis", -1, -3, "Axis"},
+      {"Elem", 1, "topology", 2, -1, "Node"},
+  };
+  EXPECT_EQ(FindDanglingReferences(model), expected);
+}
+
+TEST(FindDanglingReferences, PassesOverTablesThatTheModelHasNot) {
+  CZelData model;
+  model.CreateNode(1, {}, 0, Vbool6());
+  Data::CNode node;
+  node.SetMassProperty(8);
+  model.SetNode(2, node);
+  auto odd = Element(static_cast<ElementType>(4), {1, 2});  // a type without a shape
+  odd.SetProperty(12);
+  model.SetElem(1, odd);
+  EXPECT_TRUE(FindDanglingReferences(model).empty());
+}
+
+}  // namespace
+}  // namespace Tarvex::Workbench

@@ -1,0 +1,142 @@
+#include "workbench/report/integrity.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "store/record/axis.h"
+#include "store/record/node.h"
+#include "tests/support/builders.h"
+
+namespace Tarvex {
+namespace {
+
+using Workbench::FindFaults;
+using Workbench::Finding;
+
+/// Four elements of unit squares with nothing wrong.
+CZelData Sound() {
+  CZelData model;
+  Testing::Grid(model, 2, 2);
+  return model;
+}
+
+TEST(FindFaults, FindsNoneInASoundModel) { EXPECT_TRUE(FindFaults(Sound()).empty()); }
+
+/// A missing number planted in each reference field: table, record, field, place and target.
+struct Planted {
+  char const* field;
+  int index;
+  char const* target;
+  void (*plant)(CZelData&);
+};
+
+void Change(CZelData& model, void (*change)(Data::CElement&)) {
+  Data::CElement element(model.Elem(2));
+  change(element);
+  model.SetElem(2, element);
+}
+
+TEST(FindFaults, NamesAMissingNumberInEachReferenceFieldOfAnElement) {
+  Planted const rows[] = {
+      {"topology", 2, "Node", [](CZelData& m) { m.SetElemTopo(2, 2, 99); }},
+      {"orientationNode", -1, "Node", [](CZelData& m) { m.SetElemOrientNode(2, 99); }},
+  };
+  for (auto const& row : rows) {
+    auto model = Sound();
+    row.plant(model);
+    auto const found = FindFaults(model);
+    ASSERT_EQ(found.size(), 1u) << row.field;
+    EXPECT_EQ(found[0],
+              (Finding{"dangling-reference", "Elem", 2, row.field, row.index, 99, row.target}));
+  }
+}
+
+TEST(FindFaults, NamesAMissingAxisOfANode) {
+  auto model = Sound();
+  model.SetNodeAxis(3, 4);
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0], (Finding{"dangling-reference", "Node", 3, "axis", -1, 4, "Axis"}));
+  model.SetAxis(4, Data::CAxis());
+  EXPECT_TRUE(FindFaults(model).empty());
+}
+
+TEST(FindFaults, NamesAMissingNodeOfALoadPanel) {
+  auto model = Sound();
+  Data::LoadPanel panel;
+  panel.SetTopology(std::vector{1, 2, 77});
+  model.SetLoadPanel(9, panel);
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0], (Finding{"dangling-reference", "LoadPanel", 9, "topology", 2, 77, "Node"}));
+}
+
+TEST(FindFaults, CountsANegativeNumberAsDangling) {
+  auto model = Sound();
+  model.SetElemOrientNode(1, -3);
+  ASSERT_EQ(FindFaults(model).size(), 1u);
+  EXPECT_EQ(FindFaults(model)[0].value, -3);
+}
+
+TEST(FindFaults, FindsANodeThatStandsTwice) {
+  auto model = Sound();
+  model.SetElemTopo(1, 3, model.Elem(1).Topo(0));
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0], (Finding{"repeated-node", "Elem", 1, "topology", 3, 1, ""}));
+}
+
+TEST(FindFaults, FindsATopologyOfAnotherLengthThanTheShape) {
+  auto model = Sound();
+  Change(model, [](Data::CElement& e) { e.SetTopo(std::vector{1, 2, 5}); });
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 2, "topology", -1, 3, ""}));
+}
+
+TEST(FindFaults, CountsAPositionWithoutANodeAsMissing) {
+  auto model = Sound();
+  model.CreateElem(8, ElementType::Tri3, 1, 1);
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 8, "topology", -1, 0, ""}));
+}
+
+TEST(FindFaults, AsksThreeNodesOfAPanelAndAnyNumberOfAnElementWithoutShape) {
+  auto model = Sound();
+  Data::LoadPanel panel;
+  panel.SetTopology(std::vector{1, 2});
+  model.SetLoadPanel(9, panel);
+  Data::CElement other(1, static_cast<ElementType>(4), 1);
+  other.SetTopo(std::vector{1, 2, 3, 4, 5});
+  model.SetElem(10, other);
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].table, "LoadPanel");
+  EXPECT_EQ(found[0].code, "wrong-topology-count");
+}
+
+TEST(FindFaults, FindsNumbersThatAreNotFiniteWhereverTheyStand) {
+  double const nan = std::numeric_limits<double>::quiet_NaN();
+  double const inf = std::numeric_limits<double>::infinity();
+  auto model = Sound();
+  model.SetNodeCoor(2, {0, nan, 0});
+  Data::COffset offset;
+  offset.SetY(inf);
+  model.SetElemOffset(3, offset);
+  CElemConnect connect;
+  connect.SetStiffness(Direction::ZZ, inf);
+  model.SetElemConnect(4, 1, connect);
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 3u);
+  EXPECT_EQ(found[0],
+            (Finding{"dimension-not-finite", "Node", 2, "position", 1, std::nullopt, ""}));
+  EXPECT_EQ(found[1],
+            (Finding{"dimension-not-finite", "Elem", 3, "offset.y", -1, std::nullopt, ""}));
+  EXPECT_EQ(found[2],
+            (Finding{"dimension-not-finite", "Elem", 4, "connect.stiffness", 5, std::nullopt, ""}));
+}
+
+}  // namespace
+}  // namespace Tarvex

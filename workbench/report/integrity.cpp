@@ -1,0 +1,107 @@
+#include "workbench/report/integrity.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <ranges>
+
+#include "store/model/registry.h"
+#include "workbench/file/references.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+using Findings = std::vector<Finding>;
+
+void AddDanglingReferences(CZelData const& model, Findings& findings) {
+  for (auto& found : FindDanglingReferences(model))
+    findings.push_back({"dangling-reference", std::move(found.table), found.number,
+                        std::move(found.field), found.index, found.value, std::move(found.target)});
+}
+
+/// The nodes of a topology other than 0 that stood in it before, and how many are left.
+int AddRepeatedNodes(std::string_view table, int number, Data::TopoVector const& nodes,
+                     Findings& findings) {
+  int count = 0;
+  for (auto node = nodes.begin(); node != nodes.end(); ++node) {
+    if (*node == 0) continue;
+    ++count;
+    if (std::find(nodes.begin(), node, *node) != node)
+      findings.push_back({"repeated-node", std::string(table), number, "topology",
+                          static_cast<int>(node - nodes.begin()), *node, ""});
+  }
+  return count;
+}
+
+void CheckTopology(std::string_view table, int number, Data::TopoVector const& nodes,
+                   bool rightCount, Findings& findings) {
+  int const count = AddRepeatedNodes(table, number, nodes, findings);
+  if (!rightCount || count != static_cast<int>(nodes.size()))
+    findings.push_back(
+        {"wrong-topology-count", std::string(table), number, "topology", -1, count, ""});
+}
+
+void CheckTopologies(CZelData const& model, Findings& findings) {
+  for (auto const& [n, element] : model.Elem()) {
+    auto const& shape = element.Shape();
+    bool const right = shape.dimension == 0 || element.NumTopo() == shape.nodes;
+    CheckTopology("Elem", static_cast<int>(n), element.Topology(), right, findings);
+  }
+  constexpr int kLeastCorners = 3;
+  for (auto const& [n, panel] : model.LoadPanels())
+    CheckTopology("LoadPanel", static_cast<int>(n), panel.Topology(),
+                  panel.NumTopo() >= kLeastCorners, findings);
+}
+
+/// Calls visit(path, index) for each number of a value that is not finite.
+template <class T, class Visit>
+void ForEachNotFinite(T const& value, std::string const& path, int index, Visit&& visit) {
+  if constexpr (std::is_floating_point_v<T>) {
+    if (!std::isfinite(value)) visit(path, index);
+  } else if constexpr (std::is_same_v<T, Vec2<double>>) {
+    ForEachNotFinite(std::array{value.x, value.y}, path, index, visit);
+  } else if constexpr (std::is_same_v<T, Vec3<double>>) {
+    ForEachNotFinite(std::array{value.x, value.y, value.z}, path, index, visit);
+  } else if constexpr (Described<T>) {
+    ForEachField<T>([&](auto const& row) {
+      ForEachNotFinite(value.*row.member, path + "." + std::string(row.name), index, visit);
+    });
+  } else if constexpr (std::is_same_v<T, Data::ConnectList>) {
+    for (int i = 0; i < value.Size(); ++i) ForEachNotFinite(value.At(i), path, i, visit);
+  } else if constexpr (std::ranges::range<T> && !std::is_same_v<T, CString>) {
+    for (int i = 0; auto const& item : value) ForEachNotFinite(item, path, i++, visit);
+  }
+}
+
+template <class Record>
+void CheckNumbers(std::string_view table, int number, Record const& record, Findings& findings) {
+  ForEachField<Record>([&](auto const& row) {
+    ForEachNotFinite(
+        record.*row.member, std::string(row.name), -1, [&](std::string const& path, int index) {
+          findings.push_back(
+              {"dimension-not-finite", std::string(table), number, path, index, std::nullopt, ""});
+        });
+  });
+}
+
+void CheckAllNumbers(CZelData const& model, Findings& findings) {
+  ForEachOneOff([&](auto const& row) { CheckNumbers(row.stem, 0, (model.*row.get)(), findings); });
+  ForEachTable([&](auto const& row) {
+    for (auto const& [n, record] : (model.*row.all)())
+      CheckNumbers(row.stem, static_cast<int>(n), record, findings);
+  });
+}
+
+}  // namespace
+
+std::vector<Finding> FindFaults(CZelData const& model) {
+  Findings findings;
+  AddDanglingReferences(model, findings);
+  CheckTopologies(model, findings);
+  CheckAllNumbers(model, findings);
+  std::stable_sort(findings.begin(), findings.end(),
+                   [](auto const& a, auto const& b) { return a.code < b.code; });
+  return findings;
+}
+
+}  // namespace Tarvex::Workbench

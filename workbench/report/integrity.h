@@ -1,0 +1,32 @@
+// Faults of a model that its tables do not prevent.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "store/model/zel_data.h"
+
+namespace Tarvex::Workbench {
+
+/// One fault of a record.
+struct Finding {
+  std::string code;  ///< stable, such as "dangling-reference"
+  std::string table;
+  int number = 0;
+  std::string field;
+  int index = -1;            ///< place in a list, -1 for a field that is none
+  std::optional<int> value;  ///< the number that is at fault
+  std::string target;        ///< table that a reference points into, empty otherwise
+
+  friend bool operator==(Finding const&, Finding const&) = default;
+};
+
+/// All faults of a model, by code, table, number and field:
+///   dangling-reference    a reference to a record that does not exist
+///   repeated-node         a node that stands twice in a topology
+///   wrong-topology-count  a topology without as many nodes as its shape has, 3 at least in a panel
+///   dimension-not-finite  a number that is not finite
+std::vector<Finding> FindFaults(CZelData const& model);
+
+}  // namespace Tarvex::Workbench
