@@ -65,10 +65,9 @@ void DifferenceOfOne(benchmark::State& state) {
   model->SetElemGroup(model->HighestElem() / 2, 2);
   for (auto _ : state) {
     int changed = 0;
-    PagedTable<Data::CElement>::Difference(before->Elem(), model->Elem(),
-                                           [&](int, auto const* a, auto const* b) {
-                                             changed += *a == *b ? 0 : 1;
-                                           });
+    PagedTable<Data::CElement>::Difference(
+        before->Elem(), model->Elem(),
+        [&](int, auto const* a, auto const* b) { changed += *a == *b ? 0 : 1; });
     Require(changed, 1, "changed elements");
   }
 }

@@ -285,6 +285,32 @@ def disturb(elements, step, change):
         change(e)
 
 
+def by(word, *numbers):
+    return " ".join(f"{word}{n}" for n in numbers)
+
+
+def saved_lists(number):
+    """Kinds by property, storeys by group, facades and supports by the plane that they stand in."""
+    west_south, east_north = ((x, y, LEVELS[TOWER_BASE]) for x, y in ((0, TOWER_Y[0]), (LENGTH, TOWER_Y[1])))
+    corner = {"West": f"X{number[west_south]}", "South": f"Y{number[west_south]}",
+              "East": f"X{number[east_north]}", "North": f"Y{number[east_north]}"}
+    texts = {"Columns": by("PB", P_COLUMN), "Beams": by("PB", P_BEAM, P_TRIMMER), "Posts": by("PB", P_POST),
+             "Frame": '"Columns" "Beams" "Posts"', "Slabs": by("PA", P_SLAB, P_PODIUM, P_CANOPY),
+             "Walls": by("PA", P_WALL, P_BASEMENT_WALL), "Raft": by("PV", P_RAFT), "Facade": by("PA", P_FACADE)}
+    texts |= {f"{side} facade": f'"Facade" and {word}' for side, word in corner.items()}
+    for level in range(1, ROOF + 1):
+        kinds = [COLUMN, BEAM, FLOOR, WALL] + [FACADE] * (level > TOWER_BASE)
+        name = f"Storey {level - TOWER_BASE}" if level > TOWER_BASE else f"Basement {TOWER_BASE + 1 - level}"
+        texts[name] = by("G", *(kind + level for kind in kinds))
+    texts["Canopy"] = by("G", CANOPY)
+    tower = [f'"Storey {i}"' for i in range(1, ROOF - TOWER_BASE + 1)]
+    texts["Tower"] = " ".join([*tower, '"Canopy"'])
+    texts["Basement"] = 'all not ("Tower" "Raft")'
+    lists = [{"name": name, "kind": 2, "text": text} for name, text in texts.items()]
+    lists.append({"name": "Supports", "kind": 1, "text": "Z1"})
+    return [{"n": n} | record for n, record in enumerate(lists, 1)]
+
+
 def model():
     wall_elements = walls()
     blocks = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs() + canopy(),
@@ -305,7 +331,8 @@ def model():
             elements.append({"n": n} | fields | {"topology": [number[p] for p in e["topology"]]})
     panels = [e for e in elements if "type" not in e]
     axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}
-    return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Axis": [axis]}
+    return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Axis": [axis],
+            "List": saved_lists(number)}
 
 
 def text():

@@ -24,4 +24,22 @@ void GeometryTables::SetAxis(int n, Data::CAxis const& axis, SidMode sid) {
 
 void GeometryTables::BlankAxis(int first, int count) { m_core.state.axis.Remove(first, count); }
 
+bool GeometryTables::ListExist(int n) const { return m_core.state.list.Exist(n); }
+
+Data::CEntList const& GeometryTables::List(int n) const {
+  return TableOps::Get(m_core.state.list, "List", n);
+}
+
+tarvex_unordered_map<unsigned int, Data::CEntList> const& GeometryTables::List() const {
+  return m_core.state.list;
+}
+
+int GeometryTables::HighestList() const { return m_core.state.list.Highest(); }
+
+void GeometryTables::SetList(int n, Data::CEntList const& list, SidMode sid) {
+  TableOps::Store(m_core.state.list, n, list, sid);
+}
+
+void GeometryTables::BlankList(int first, int count) { m_core.state.list.Remove(first, count); }
+
 }  // namespace Tarvex

@@ -1,4 +1,5 @@
-// Tables of axes and other geometry. The operations are those of store/model/entity_tables.h.
+// Tables of axes, saved lists and other geometry. The operations are those of
+// store/model/entity_tables.h.
 #pragma once
 
 #include "store/export.h"
@@ -10,9 +11,10 @@ namespace Tarvex {
 class ModelCore;
 namespace Data {
 class CAxis;
-}
+class CEntList;
+}  // namespace Data
 
-/// Axes of a model.
+/// Axes and saved lists of a model.
 class TARVEX_STORE_EXPORT GeometryTables {
  public:
   // User axes (20). Axis(0) is the global axis; AxisExist(0) is false.
@@ -22,6 +24,14 @@ class TARVEX_STORE_EXPORT GeometryTables {
   int HighestAxis() const;
   void SetAxis(int n, Data::CAxis const& axis, SidMode sid = SidMode::Keep);
   void BlankAxis(int first, int count);
+
+  // Saved lists (no module number): what "#" and quoted names in lists refer to.
+  bool ListExist(int n) const;
+  Data::CEntList const& List(int n) const;
+  tarvex_unordered_map<unsigned int, Data::CEntList> const& List() const;
+  int HighestList() const;
+  void SetList(int n, Data::CEntList const& list, SidMode sid = SidMode::Keep);
+  void BlankList(int first, int count);
 
  protected:
   explicit GeometryTables(ModelCore& core) : m_core(core) {}

@@ -1,16 +1,20 @@
 // What a model is made of. Internal to the store.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "store/model/list_cache.h"
+#include "store/model/zel_data.h"
 #include "store/numeric/box.h"
 #include "store/numeric/point_index.h"
 #include "store/record/axis.h"
 #include "store/record/element.h"
+#include "store/record/ent_list.h"
 #include "store/record/load_panel.h"
 #include "store/record/node.h"
 #include "store/record/spec.h"
@@ -25,6 +29,7 @@ struct ModelState {
   PagedTable<Data::CElement> elem;
   PagedTable<Data::LoadPanel> panel;
   PagedTable<Data::CAxis> axis;
+  PagedTable<Data::CEntList> list;
   Data::CSpec spec;
   Data::CDefaults defaults;
 
@@ -47,6 +52,17 @@ class ModelCore {
     Util::CBox3D box;
   } extents;
 
+  /// The numbers in use in some tables, of the revisions that they were taken from.
+  struct Existing {
+    bool known = false;
+    std::array<std::uint64_t, 2> revisions{};
+    Intervals numbers;
+  };
+  Existing existingNodes;
+  Existing existingElements;
+  Existing existingElementsAndPanels;
+  ListCache lists;
+
   History<ModelState> history;
   std::vector<CModule::ModuleId> bulkModules;  ///< announced by AddBulkOperations
 
@@ -62,6 +78,12 @@ class ModelCore {
   void NodeMoved(int n, Data::CNode const* before, Data::CNode const* after);
   /// Puts another state in the place of the present one, with all that is derived from it.
   void Restore(ModelState other);
+};
+
+/// The store's own way to what a model is made of.
+struct ModelAccess {
+  /// What is derived may be brought up to date on a const model too.
+  static ModelCore& Core(ModelBase const& model) { return *model.m_owned; }
 };
 
 }  // namespace Tarvex

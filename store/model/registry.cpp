@@ -24,21 +24,28 @@ constexpr std::array<ModuleRow, sizeof...(I)> EraseAll(std::index_sequence<I...>
   return {Erase<I>()...};
 }
 
+constexpr auto kTableCount = std::tuple_size_v<decltype(Registry::kTables)>;
+
+struct ModuleRows {
+  std::array<ModuleRow, kTableCount> rows{};
+  std::size_t size = 0;
+
+  constexpr bool Knows(CModule::ModuleId module) const {
+    for (std::size_t i = 0; i < size; ++i)
+      if (rows[i].module == module) return true;
+    return false;
+  }
+};
+
 /// Load panels share the module of the elements: as a module the two are emptied together, and only
 /// elements count as existing.
-constexpr auto MakeModules() {
-  constexpr auto kCount = std::tuple_size_v<decltype(Registry::kTables)>;
-  auto const rows = EraseAll(std::make_index_sequence<kCount>());
-  std::array<ModuleRow, kCount - 1> modules{};
-  std::size_t size = 0;
-  for (auto const& row : rows) {
-    bool known = false;
-    for (std::size_t i = 0; i < size; ++i) known = known || modules[i].module == row.module;
-    if (known) continue;
-    modules[size] = row;
+constexpr ModuleRows MakeModules() {
+  ModuleRows modules;
+  for (auto row : EraseAll(std::make_index_sequence<kTableCount>())) {
+    if (row.module == CModule::None || modules.Knows(row.module)) continue;
     if (row.module == CModule::Elem)
-      modules[size].clear = [](CZelData& model) { model.BlankVariantElement(1, kAll); };
-    ++size;
+      row.clear = [](CZelData& model) { model.BlankVariantElement(1, kAll); };
+    modules.rows[modules.size++] = row;
   }
   return modules;
 }
@@ -47,10 +54,10 @@ constexpr auto kModules = MakeModules();
 
 }  // namespace
 
-std::span<ModuleRow const> Modules() { return kModules; }
+std::span<ModuleRow const> Modules() { return std::span(kModules.rows).first(kModules.size); }
 
 ModuleRow const* FindModule(CModule::ModuleId module) {
-  for (auto const& row : kModules)
+  for (auto const& row : Modules())
     if (row.module == module) return &row;
   return nullptr;
 }

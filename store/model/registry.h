@@ -12,6 +12,7 @@
 #include "store/export.h"
 #include "store/model/zel_data.h"
 #include "store/record/axis.h"
+#include "store/record/ent_list.h"
 #include "store/record/node.h"
 
 namespace Tarvex {
@@ -76,6 +77,9 @@ inline constexpr std::tuple kTables{
     TableRow<Data::CAxis>{CModule::Axis, "Axis", TableShape::Sparse, RemovalForm::Blank,
                           &CZelData::AxisExist, &CZelData::Axis, &CZelData::Axis,
                           &CZelData::HighestAxis, &CZelData::SetAxis, &CZelData::BlankAxis},
+    TableRow<Data::CEntList>{CModule::None, "List", TableShape::Sparse, RemovalForm::Blank,
+                             &CZelData::ListExist, &CZelData::List, &CZelData::List,
+                             &CZelData::HighestList, &CZelData::SetList, &CZelData::BlankList},
 };
 
 }  // namespace Registry
@@ -100,7 +104,7 @@ struct ModuleRow {
   void (*clear)(CZelData&);
 };
 
-/// The rows of all modules that have a table.
+/// The rows of all modules that have a table; a table without a module number has none.
 TARVEX_STORE_EXPORT std::span<ModuleRow const> Modules();
 /// The row of a module, null when no table has it.
 TARVEX_STORE_EXPORT ModuleRow const* FindModule(CModule::ModuleId module);

@@ -23,6 +23,8 @@ class TARVEX_STORE_EXPORT ModelBase {
   ModelBase& operator=(ModelBase const& other);
   ~ModelBase();
 
+  friend struct ModelAccess;
+
   std::unique_ptr<ModelCore> m_owned;
 
  public:

@@ -46,24 +46,24 @@ CEntList::CEntList(SelType kind, std::vector<int> const& tokens) : m_kind(kind) 
 
 void CEntList::SetType(SelType kind) {
   m_kind = kind;
-  m_last.Set(nullptr);
+  m_kept.Clear();
 }
 
 bool CEntList::SetString(CString const& text, ListFault* fault) {
   if (!m_text.Set(text, m_kind, fault)) return false;
-  m_last.Set(nullptr);
+  m_kept.Clear();
   return true;
 }
 
 bool CEntList::SetTokens(std::vector<int> const& tokens) {
   if (!m_text.Set({tokens, m_text.Tokens().strings}, m_kind)) return false;
-  m_last.Set(nullptr);
+  m_kept.Clear();
   return true;
 }
 
 void CEntList::Change(ListTokens tokens) {
   m_text.Put(std::move(tokens));
-  m_last.Set(nullptr);
+  m_kept.Clear();
 }
 
 int CEntList::Word(int i) const { return CheckedAt(Word(), i); }
@@ -90,7 +90,7 @@ void CEntList::AddTo(int token) {
 void CEntList::AssignFromSet(Util::CSet const& set) { Change({CompactWords(set.Runs()), {}}); }
 
 int CEntList::Item(int n) const {
-  auto const numbers = m_last.Get();
+  auto const numbers = m_kept.Get().counted;
   if (numbers == nullptr) ThrowBadSubscript();
   return numbers->Item(n);
 }
@@ -122,7 +122,8 @@ namespace Tarvex::Util {
 
 void CSet::AddListToSet(Data::CEntList const& list, int highest) {
   if (list.TypeOf() == SelCase) return;
-  for (auto const& run : Data::ExpandPlain(list, highest).Runs()) Add(run);
+  auto const numbers = Data::ExpandPlain(list, highest);
+  for (auto const& run : numbers.Runs()) Add(run);
 }
 
 }  // namespace Tarvex::Util

@@ -1,7 +1,9 @@
 // Selection lists: which entities of a kind a record or a user means.
 #pragma once
 
+#include <boost/make_shared.hpp>
 #include <boost/smart_ptr/atomic_shared_ptr.hpp>
+#include <utility>
 
 #include "store/record/entity.h"
 #include "store/select/bit_container.h"
@@ -10,25 +12,34 @@
 
 namespace Tarvex::Data {
 
-/// The expansion that a list was last asked for, for the accessors that have no model. A copy of
-/// the list takes it along; reading the same list from two threads is no fault.
-class LastExpansion {
+/// Expansions that a list keeps: what it was last counted for, which the accessors without a model
+/// tell, and what references were given to. A copy of the list takes them along; using the same
+/// list from two threads is no fault.
+class KeptExpansions {
  public:
   using Pointer = boost::shared_ptr<CBitContainer const>;
+  struct All {
+    Pointer counted;
+    Pointer walked[2];  ///< without and with load panels
+  };
 
-  LastExpansion() = default;
-  LastExpansion(LastExpansion const& other) noexcept : m_numbers(other.Get()) {}
-  LastExpansion& operator=(LastExpansion const& other) noexcept {
-    Set(other.Get());
+  KeptExpansions() = default;
+  KeptExpansions(KeptExpansions const& other) noexcept : m_all(other.m_all.load()) {}
+  KeptExpansions& operator=(KeptExpansions const& other) noexcept {
+    m_all.store(other.m_all.load());
     return *this;
   }
-  ~LastExpansion() = default;
+  ~KeptExpansions() = default;
 
-  Pointer Get() const { return m_numbers.load(); }
-  void Set(Pointer numbers) { m_numbers.store(std::move(numbers)); }
+  All Get() const {
+    auto const all = m_all.load();
+    return all == nullptr ? All() : *all;
+  }
+  void Set(All const& all) { m_all.store(boost::make_shared<All const>(all)); }
+  void Clear() { m_all.store(nullptr); }
 
  private:
-  boost::atomic_shared_ptr<CBitContainer const> m_numbers;
+  boost::atomic_shared_ptr<All const> m_all;
 };
 
 /// A selection list: a kind, and a definition in words (see docs/lists.md). What it selects depends
@@ -108,17 +119,31 @@ class TARVEX_STORE_EXPORT CEntList : public NamedEntity {
 
   SelType m_kind = SelNone;
   ListText m_text;
-  mutable LastExpansion m_last;
+  mutable KeptExpansions m_kept;
 };
 
 /// The store's own way to what lists keep for it.
 struct ListAccess {
   static ListText const& Text(CEntList const& list) { return list.m_text; }
-  static void SetLast(CEntList const& list, LastExpansion::Pointer numbers) {
-    list.m_last.Set(std::move(numbers));
+  using Pointer = KeptExpansions::Pointer;
+  static void SetLast(CEntList const& list, Pointer numbers) {
+    auto kept = list.m_kept.Get();
+    Keep(list, kept, kept.counted, std::move(numbers));
+  }
+  static void Pin(CEntList const& list, bool panels, Pointer numbers) {
+    auto kept = list.m_kept.Get();
+    Keep(list, kept, kept.walked[panels ? 1 : 0], std::move(numbers));
   }
   /// Replaces the words by others of the right form.
   static void Change(CEntList& list, ListTokens tokens) { list.Change(std::move(tokens)); }
+
+ private:
+  static void Keep(CEntList const& list, KeptExpansions::All& all, Pointer& place,
+                   Pointer numbers) {
+    if (place == numbers) return;
+    place = std::move(numbers);
+    list.m_kept.Set(all);
+  }
 };
 
 }  // namespace Tarvex::Data

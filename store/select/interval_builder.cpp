@@ -72,6 +72,10 @@ void IntervalBuilder::Apply(Interval run, bool add) {
   if (m_steps.size() >= std::max(kFewSteps, m_merged.Runs().size())) Merge();
 }
 
+void IntervalBuilder::ApplyAll(Intervals const& runs, bool add) {
+  for (auto const& run : runs.Runs()) Apply(run, add);
+}
+
 Intervals const& IntervalBuilder::Merge() {
   if (m_steps.empty()) return m_merged;
   if (m_steps.size() == 1 && m_merged.IsEmpty()) {  // as in every item of a list
@@ -100,18 +104,18 @@ Intervals IntervalBuilder::Take() {
 
 void IntervalBuilder::Unite(IntervalBuilder other) {
   if (Size() < other.Size()) std::swap(*this, other);
-  for (auto const& run : other.Take().Runs()) Apply(run, true);
+  ApplyAll(other.Take(), true);
 }
 
 void IntervalBuilder::Intersect(IntervalBuilder other) {
   if (Size() < other.Size()) std::swap(*this, other);
   other.Complement();
-  for (auto const& run : other.Take().Runs()) Apply(run, false);
+  ApplyAll(other.Take(), false);
 }
 
 void IntervalBuilder::Subtract(IntervalBuilder other) {
   if (Size() >= other.Size()) {
-    for (auto const& run : other.Take().Runs()) Apply(run, false);
+    ApplyAll(other.Take(), false);
     return;
   }
   // All but the rest is what is not here or is in the other.

@@ -37,6 +37,7 @@ class TARVEX_STORE_EXPORT IntervalBuilder {
   };
 
   void Apply(Interval run, bool add);
+  void ApplyAll(Intervals const& runs, bool add);
   void Complement() { m_inverse = !m_inverse; }
   /// Runs of what the steps give, which is what is not in the set when m_inverse is true.
   Intervals const& Merge();

@@ -3,6 +3,21 @@
 #include <algorithm>
 
 namespace Tarvex {
+namespace {
+
+/// The first run from a place on that ends at or behind a number. Logarithmic in how far it is.
+template <class Place>
+Place SkipTo(Place at, Place end, int number) {
+  auto const before = [](Interval const& run, int value) { return run.last < value; };
+  std::ptrdiff_t step = 1;
+  while (end - at > step && before(at[step], number)) {
+    at += step;
+    step *= 2;
+  }
+  return std::lower_bound(at, end - at > step ? at + step : end, number, before);
+}
+
+}  // namespace
 
 Intervals::Intervals(std::initializer_list<Interval> ascending)
     : Intervals(std::span(ascending.begin(), ascending.size())) {}
@@ -47,9 +62,9 @@ Intervals Intersection(Intervals const& a, Intervals const& b) {
   while (i != a.m_runs.end() && j != b.m_runs.end()) {
     common.Append({std::max(i->first, j->first), std::min(i->last, j->last)});
     if (i->last < j->last)
-      ++i;
+      i = SkipTo(i + 1, a.m_runs.end(), j->first);
     else
-      ++j;
+      j = SkipTo(j + 1, b.m_runs.end(), i->first);
   }
   return common;
 }

@@ -32,12 +32,14 @@ class TARVEX_STORE_EXPORT Intervals {
   /// Adds a run that begins at or behind the last one's begin. Linear over many calls.
   void Append(Interval run);
 
-  std::span<Interval const> Runs() const { return m_runs; }
+  std::span<Interval const> Runs() const& { return m_runs; }
+  std::span<Interval const> Runs() const&& = delete;  // they would be gone
   bool IsEmpty() const { return m_runs.empty(); }
   /// Logarithmic in the number of runs.
   bool Contains(int number) const;
 
-  // Linear in the runs of both.
+  // Linear in the runs of both; the intersection of few runs with many costs the few, with a factor
+  // of the logarithm of the many.
   TARVEX_STORE_EXPORT friend Intervals Union(Intervals const& a, Intervals const& b);
   TARVEX_STORE_EXPORT friend Intervals Intersection(Intervals const& a, Intervals const& b);
   /// What is in a and not in b.

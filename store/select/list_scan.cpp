@@ -93,7 +93,7 @@ void ListScanner::Numbers(ListElement& element) {
   }
   element.last = m_words[m_at + 1];
   if (CaseKind(element.first) != CaseKind(element.last))
-    Fail(1, "a range from one kind of cases to another");
+    Fail(1, "a range whose ends are not of one kind");
   m_at += 2;
   Step(element);
 }

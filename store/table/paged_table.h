@@ -15,7 +15,7 @@
 //  2. A copy is unaffected by later changes of the original, and the other way round.
 //  3. A change clones at most one page and one chunk.
 //  4. A reference is good until the next store into or removal from the same table.
-//  5. Equal revisions mean equal contents.
+//  5. Equal revisions mean equal contents, equal existence revisions the same numbers.
 #pragma once
 
 #include <bit>
@@ -106,6 +106,8 @@ class PagedTable {
 
   int Highest() const { return m_highest; }
   std::uint64_t Revision() const { return m_revision; }
+  /// As Revision, but it stays when records change and none comes or goes.
+  std::uint64_t ExistenceRevision() const { return m_existence; }
 
   /// Lowest number in use above the given one (which may be 0); 0 when there is none.
   int Next(int number) const;
@@ -158,7 +160,7 @@ class PagedTable {
 
  private:
   struct WithRevision {};
-  explicit PagedTable(WithRevision) : m_revision(NextRevision()) {}
+  explicit PagedTable(WithRevision) : m_revision(NextRevision()), m_existence(m_revision) {}
 
   struct PlaceOf {
     std::size_t chunk;
@@ -236,12 +238,14 @@ class PagedTable {
     std::swap(m_count, other.m_count);
     std::swap(m_highest, other.m_highest);
     std::swap(m_revision, other.m_revision);
+    std::swap(m_existence, other.m_existence);
   }
 
   std::vector<ChunkPtr> m_root;
   std::size_t m_count = 0;
   int m_highest = 0;
   std::uint64_t m_revision = 0;
+  std::uint64_t m_existence = 0;
 };
 
 /// The read-only face of a whole sparse table, as the model's accessors give it.

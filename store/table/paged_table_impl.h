@@ -42,6 +42,7 @@ Record& PagedTable<Record, PageSize, ChunkSize>::Set(int number, R&& record) {
     page.Put(place.slot, std::forward<R>(record));
     ++m_count;
     m_highest = std::max(m_highest, number);
+    m_existence = m_revision;
   }
   return page.At(place.slot);
 }
@@ -58,6 +59,7 @@ void PagedTable<Record, PageSize, ChunkSize>::Remove(int first, int count) {
     --m_count;
     if (page.occupied == 0) m_root[place.chunk]->pages[place.page] = nullptr;
     m_revision = NextRevision();
+    m_existence = m_revision;
   }
   if (last >= m_highest) m_highest = Previous(m_highest + 1);
 }

@@ -125,8 +125,8 @@ class Evaluator {
     int const last = Take(L"to") ? Number() : first;
     Set set;
     for (int number = first; number <= last; ++number) {
-      bool const own = (word == L"N" && m_model.kind == SelNode) ||
-                       (word == L"E" && m_model.kind == SelElement);
+      bool const own =
+          (word == L"N" && m_model.kind == SelNode) || (word == L"E" && m_model.kind == SelElement);
       set.merge(own ? Common({number}, m_model.existing) : m_model.word(word, number));
     }
     return set;
@@ -178,7 +178,8 @@ class Composer {
   std::wstring Word() {
     auto const word = L" " + m_random.Of(m_form.words);
     // What follows a word without its number must be none.
-    if (m_form.gaps && m_random.Percent(10)) return word + L" or ";
+    if (m_form.gaps && m_random.Percent(10))
+      return word + (m_form.operators ? Operator() : L" or ");
     auto text = word + (m_random.Percent(30) ? L" " : L"") + std::to_wstring(m_random.Int(0, 6));
     if (m_random.Percent(20)) text += L" to " + std::to_wstring(m_random.Int(0, 6));
     return text + L" ";

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "store/record/axis.h"
+#include "store/record/ent_list.h"
 #include "store/record/node.h"
+#include "tests/support/plain_list.h"
 
 namespace Tarvex::Testing {
 namespace {
@@ -47,6 +49,7 @@ class Maker {
     StoreAxes();
     StoreNodes();
     StoreEntities();
+    StoreLists();
     StoreOneOffs();
     return m_model;
   }
@@ -288,6 +291,21 @@ class Maker {
     numbers.erase(at);
     while (m_model.VariantElementExist(n)) ++n;
     return n;
+  }
+
+  void StoreLists() {
+    ListForm form;
+    form.words = {L"#", L"#", L"#", L"N", L"E", L"P", L"PB", L"PA", L"PV", L"G", L"M", L"X", L"ZX"};
+    form.names = {L"roof", L"Stütze Süd 7"};
+    for (int const n : m_random.Numbers(m_random.Int(2, 5))) {
+      auto const kind = static_cast<SelType>(m_random.Int(SelNone, SelCase));
+      form.highest = m_random.Of<int>({10, 40, 100000000});
+      CString const text = RandomListText(m_random, form, m_random.Int(0, 8));
+      Data::CEntList list(AnyText(), kind, kind == SelCase ? L"L1 to L5 A2 or C3 T4" : text);
+      FillNamed(list);
+      if (m_random.Percent(50)) list.SetName(CString(m_random.Of(form.names)));
+      m_model.SetList(n, list);
+    }
   }
 
   void StoreOneOffs() {

@@ -49,8 +49,9 @@ class Random {
 
 /// A model that has something in every table and, over many seeds, in every field of a record.
 ///
-/// Numbers: nodes, elements with load panels, and axes each have half of a range, in no order, so
-/// that there are holes; some panels stand between the elements and one to three above them all.
+/// Numbers: nodes, elements with load panels, axes and lists each have half of a range, in no
+/// order, so that there are holes; some panels stand between the elements and one to three above
+/// them all.
 ///
 /// Geometry: one to three patches of up to 4 by 4 cells on shared nodes. A patch lies in a level,
 /// vertical or skew plane; in one of three its nodes are moved off the plane by up to 0.05. A cell
@@ -60,6 +61,10 @@ class Random {
 /// existing nodes, one in four of them upright; one of each solid; up to three elements of the
 /// types without a shape, with one to nine nodes, repeats among them. One quadrilateral in fifty
 /// has two corners on the same node.
+///
+/// Lists: two to five saved lists of the kinds without one to cases, of up to eight items with
+/// ranges, operators, gaps, words and names. They refer to each other, to themselves and to lists
+/// that are none.
 ///
 /// Fields: about three in ten records have a given field changed. Texts hold characters of one to
 /// four UTF-8 bytes. All nodes that anything names exist, and so do the axes of nodes.

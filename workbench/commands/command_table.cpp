@@ -4,14 +4,15 @@
 #include "workbench/commands/orientation.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/selection.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family :
-       {InspectCommands(), OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), SelectionCommands(), OrientationCommands(),
+                             RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }

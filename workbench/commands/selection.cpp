@@ -1,14 +1,18 @@
 #include "workbench/commands/selection.h"
 
 #include <array>
+#include <nlohmann/json.hpp>
 
-#include "store/select/list_tokens.h"
+#include "store/model/list_expansion.h"
+#include "store/model/saved_lists.h"
 #include "workbench/commands/errors.h"
+#include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
-using Data::ListToken;
+using Data::CEntList;
+using Json = nlohmann::ordered_json;
 
 struct KindWord {
   std::string_view word;
@@ -17,66 +21,44 @@ struct KindWord {
 constexpr std::array kKindWords{KindWord{"node", SelNode}, KindWord{"element", SelElement},
                                 KindWord{"member", SelMember}};
 
-[[noreturn]] void Refuse(std::string const& why) { throw UsageError("--list: " + why); }
+CEntList ListOf(SelType kind, std::string const& text) {
+  CEntList list(kind, L"");
+  Data::ListFault fault{};
+  if (!list.SetString(CString::FromUtf8(text), &fault))
+    throw UsageError("--list: character " + std::to_string(fault.position + 1) + ": " +
+                     fault.reason.ToUtf8());
+  return list;
+}
 
-/// Evaluates the words of one list from left to right.
-class Evaluator {
- public:
-  Evaluator(CZelData const& model, SelType kind, std::vector<int> const& words)
-      : m_model(model), m_words(words), m_set(kind), m_highest(model.HighestEnt(kind)) {}
-
-  Util::CSet Run() {
-    while (m_at < m_words.size()) Item();
-    return std::move(m_set);
+void WarnOfMissingLists(CZelData const& model, CEntList const& list, CommandResult& result) {
+  SavedLists saved(model.List(), list.TypeOf());
+  auto const kind = SelTypeLabel(list.TypeOf()).ToUtf8();
+  for (auto const& missing : saved.MissingIn(Data::ListAccess::Text(list).Tokens())) {
+    auto const what = missing.number == 0 ? "'" + missing.name.ToUtf8() + "'"
+                                          : "#" + std::to_string(missing.number);
+    result.warnings.push_back(
+        {"missing-list", "List", missing.number, what + " is no saved list of " + kind + "s"});
   }
+}
 
- private:
-  int Peek(std::size_t ahead = 0) const {
-    auto const at = m_at + ahead;
-    return at < m_words.size() ? m_words[at] : ListToken::kNone;
-  }
+void RunSelect(CZelData& model, Arguments const& arguments, CommandResult& result) {
+  auto const& word = arguments.Text("--kind");
+  auto const set = SelectByOptions(model, KindOf(word), arguments, result);
+  auto const count = static_cast<std::size_t>(set.NumItem());
+  result.result = std::make_shared<Json>(Json{
+      {"kind", word}, {"count", count}, {"numbers", std::vector<int>(set.begin(), set.end())}});
+  result.text = Counted(count, word);
+  if (count > 0) result.text += ": " + set.String().ToUtf8();
+  result.text += "\n";
+  result.did = true;
+}
 
-  void Item() {
-    int const word = m_words[m_at++];
-    if (word == ListToken::kAll) return AddRange(1, m_highest, 1);
-    if (word == ListToken::kNone) return;
-    int const first = Number(word);
-    if (Peek() != ListToken::kTo) return Add(first);
-    ++m_at;
-    if (m_at >= m_words.size()) Refuse("a range without its end");
-    int const last = Number(m_words[m_at++]);
-    int step = 1;
-    if (Peek() == ListToken::kStep) {
-      ++m_at;
-      if (m_at >= m_words.size()) Refuse("a step without its number");
-      step = Number(m_words[m_at++]);
-      if (step < 1) Refuse("a step below 1");
-    }
-    AddRange(first, last, step);
-  }
+constexpr std::array kSelectOptions{
+    Option{"--list", "TEXT", ValueKind::Text, "all", "the list text; docs/lists.md explains it"},
+    Option{"--kind", "node|element|member", ValueKind::Choice, "element", "what the list names"}};
 
-  int Number(int word) const {
-    if (word == ListToken::kHighest) return m_highest;
-    if (word < 0)
-      Refuse("the word '" + Data::WriteListTokens({{word}, {}}).ToUtf8() +
-             "' is not known here: use numbers, ranges and all");
-    return word;
-  }
-
-  void Add(int n) {
-    if (m_model.EntExist({m_set.TypeOf(), n})) m_set.AddTo(n);
-  }
-
-  void AddRange(int first, int last, int step) {
-    for (long long n = first; n <= std::min(last, m_highest); n += step) Add(static_cast<int>(n));
-  }
-
-  CZelData const& m_model;
-  std::vector<int> const& m_words;
-  Util::CSet m_set;
-  int m_highest;
-  std::size_t m_at = 0;
-};
+constexpr std::array kCommands{Command{"select", "tell the entities that a list text selects",
+                                       kSelectOptions, CommandKind::Reads, &RunSelect}};
 
 }  // namespace
 
@@ -87,21 +69,21 @@ SelType KindOf(std::string_view word) {
 }
 
 Util::CSet Select(CZelData const& model, SelType kind, std::string const& listText) {
-  Data::ListFault fault{};
-  auto const tokens = Data::ReadListTokens(CString::FromUtf8(listText), &fault);
-  if (!tokens)
-    Refuse("character " + std::to_string(fault.position + 1) + ": " + fault.reason.ToUtf8());
-  return Evaluator(model, kind, tokens->words).Run();
+  return Util::MakeSet(ListOf(kind, listText), model, true);
 }
 
 Util::CSet SelectByOptions(CZelData const& model, SelType kind, Arguments const& arguments,
                            CommandResult& result) {
   auto const& text = arguments.Text("--list");
-  auto set = Select(model, kind, text);
+  auto const list = ListOf(kind, text);
+  auto set = Util::MakeSet(list, model, true);
+  WarnOfMissingLists(model, list, result);
   if (set.IsEmpty())
     result.warnings.push_back(
         {"empty-selection", "", 0, "'" + text + "' selects no " + SelTypeLabel(kind).ToUtf8()});
   return set;
 }
+
+std::span<Command const> SelectionCommands() { return kCommands; }
 
 }  // namespace Tarvex::Workbench

@@ -1,4 +1,4 @@
-// The entities that a list text selects.
+// The entities that a list text selects, and the command that tells them.
 #pragma once
 
 #include <string>
@@ -12,14 +12,15 @@ namespace Tarvex::Workbench {
 /// The kind that "node", "element" or "member" names.
 SelType KindOf(std::string_view word);
 
-/// The existing entities of a kind that a list text names: numbers, ranges "a to b step s" where
-/// "*" is the highest number, "all", "none". Elements include load panels. Throws UsageError with
-/// the place for a text that is none of this.
+/// The existing entities of a kind that a list text selects; docs/lists.md tells how. Elements
+/// include load panels. Throws UsageError with place and reason for a text that is no list.
 Util::CSet Select(CZelData const& model, SelType kind, std::string const& listText);
 
-/// As Select by the options --list and, where the command has it, the kind given; warns when
-/// nothing is selected.
+/// As Select by the option --list; warns when nothing is selected and of saved lists that there are
+/// not.
 Util::CSet SelectByOptions(CZelData const& model, SelType kind, Arguments const& arguments,
                            CommandResult& result);
+
+std::span<Command const> SelectionCommands();
 
 }  // namespace Tarvex::Workbench

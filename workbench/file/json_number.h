@@ -14,8 +14,7 @@ char const* EndOfJsonNumber(char const* at);
 
 /// Whether a character may follow a number or another word of JSON.
 inline bool EndsJsonWord(char c) {
-  return c == ',' || c == ']' || c == '}' || c == ' ' || c == '\n' || c == '\t' || c == '\r' ||
-         c == '\0';
+  return c == ',' || c == ']' || c == '}' || c == ' ' || c == '\n' || c == '\t' || c == '\r';
 }
 
 /// The double nearest to the number that stands from one place to another; infinite when it is

@@ -41,6 +41,8 @@ void AppendStep(std::string& pointer, Step const& step) {
       pointer += "~0";
     else if (c == '/')
       pointer += "~1";
+    else if (c >= 0 && c < ' ')
+      AppendJsonCharacter(pointer, c);  // a pointer is part of a line
     else
       pointer += c;
   }

@@ -21,7 +21,7 @@ struct JsonFault {
   std::string text;
 };
 
-/// What a scan found.
+/// What a scan found. Control characters of keys stand escaped in pointers.
 struct JsonScan {
   std::optional<JsonFault> fault;  ///< the first one
   /// JSON pointer to the value, or to the value of the key, that begins at the asked offset.

@@ -139,14 +139,16 @@ JsonString ReadJsonString(std::string_view json, std::size_t at, std::string& ut
   return Reader(json, at, utf8).Read();
 }
 
+void AppendJsonCharacter(std::string& json, char c) {
+  if (c == '"' || c == '\\' || IsControl(c))
+    AppendEscape(json, c);
+  else
+    json += c;
+}
+
 void AppendJsonString(std::string& json, std::string_view utf8) {
   json += '"';
-  for (char const c : utf8) {
-    if (c == '"' || c == '\\' || IsControl(c))
-      AppendEscape(json, c);
-    else
-      json += c;
-  }
+  for (char const c : utf8) AppendJsonCharacter(json, c);
   json += '"';
 }
 

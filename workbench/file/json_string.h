@@ -19,6 +19,8 @@ struct JsonString {
 /// @param utf8 receives the text.
 JsonString ReadJsonString(std::string_view json, std::size_t at, std::string& utf8);
 
+/// Appends one byte of a text as it stands in a JSON string, escaped where it must be.
+void AppendJsonCharacter(std::string& json, char c);
 /// Appends a text as a JSON string with quotes. Only what must be escaped is.
 void AppendJsonString(std::string& json, std::string_view utf8);
 

@@ -9,6 +9,7 @@
 
 #include <cstring>
 #include <limits>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -45,10 +46,10 @@ inline constexpr std::size_t kJsonLongest = simdjson::SIMDJSON_MAXSIZE_BYTES;
 
 /// What a call of the library gave; fails at a place where that is an error.
 template <class Result>
-auto TakeJson(Result&& result, char const* at) {
+auto TakeJson(Result result, char const* at) {
   if (result.error() == simdjson::MEMALLOC) throw std::bad_alloc();
   if (result.error()) throw JsonWalkFault{at, simdjson::error_message(result.error())};
-  return std::forward<Result>(result).value_unsafe();
+  return std::move(result).value_unsafe();
 }
 
 /// The key of a field.
@@ -163,7 +164,7 @@ template <class Visit>
 void JsonValue::ForEachItem(Visit&& visit) {
   if (*m_begin != '[') FailExpected(m_begin, "an array");
   for (auto item : TakeJson(m_value.get_array(), m_begin)) {
-    JsonValue value(TakeJson(std::move(item), m_begin), m_end);
+    JsonValue value(TakeJson(item, m_begin), m_end);
     visit(value);
   }
 }
@@ -173,7 +174,7 @@ template <class Visit>
 void ForEachJsonField(simdjson::ondemand::object object, char const* begin, char const* end,
                       Visit&& visit) {
   for (auto item : object) {
-    auto field = TakeJson(std::move(item), begin);
+    auto field = TakeJson(item, begin);
     JsonKey const key(field.key().raw(), end);
     JsonValue value(std::move(field).value(), end);
     visit(key, value);

@@ -40,14 +40,15 @@ void WriteTable(std::string& out, Row const& row, CZelData const& model) {
   auto const& table = (model.*row.all)();
   if (table.size() == 0) return;
   BeginEntry(out, row.stem);
-  char const* separator = "[\n    {";
+  char const* separator = "[\n    ";
   for (auto const& [number, record] : table) {
     out += separator;
+    BeginObject(out, record);
     WriteKey(out, "n");
     AppendJsonNumber(out, static_cast<int>(number));
     WriteFields(out, record);
     out += '}';
-    separator = ",\n    {";
+    separator = ",\n    ";
   }
   out += "\n  ]";
 }

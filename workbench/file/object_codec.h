@@ -7,11 +7,13 @@
 
 #include <array>
 #include <bitset>
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "store/record/field.h"
+#include "store/text/cstring.h"
 #include "workbench/file/json_scan.h"
 
 namespace Tarvex::Workbench {
@@ -54,17 +56,25 @@ constexpr auto MakeFieldReaders() {
 }
 
 /// Index of the reader of a key, the number of readers when there is none. Files have the keys of
-/// most records in order, so the one that should come next is tried first.
+/// most records in the order of the fields, so the search goes on from the one that may come next.
 template <class Readers, class Key>
 std::size_t FindReader(Readers const& readers, Key const& key, std::size_t next) {
-  if (next < readers.size() && key.Is(readers[next].name)) return next;
-  for (std::size_t i = 0; i < readers.size(); ++i)
+  for (std::size_t i = next; i < readers.size(); ++i)
+    if (key.Is(readers[i].name)) return i;
+  for (std::size_t i = 0; i < next; ++i)
     if (key.Is(readers[i].name)) return i;
   auto const text = key.Text();  // perhaps spelled with escapes
   for (std::size_t i = 0; i < readers.size(); ++i)
     if (readers[i].name == text) return i;
   return readers.size();
 }
+
+/// A record that tells what makes it no record that a file may hold, where its fields can't tell
+/// alone.
+template <class T>
+concept TellsFault = requires(T const& record) {
+  { record.Fault() } -> std::same_as<CString>;
+};
 
 /// Reads an object, each key at most once and the required ones at least. A target that has
 /// BeforeKey(index, key) is told of each key before its value is read.
@@ -84,6 +94,8 @@ void ReadObject(Object& in, std::array<FieldReader<Value, Target>, N> const& rea
   });
   for (std::size_t i = 0; i < N; ++i)
     if (readers[i].required && !seen[i]) in.Fail("missing key " + Quoted(readers[i].name));
+  if constexpr (TellsFault<Target>)
+    if (auto const fault = target.Fault(); !fault.IsEmpty()) in.Fail(fault.ToUtf8());
 }
 
 // Writing.
@@ -110,6 +122,14 @@ inline void WriteKey(std::string& out, std::string_view name) {
   out += '"';
   out += name;
   out += "\": ";
+}
+
+/// Begins an object; throws for a record that no file may hold.
+template <Described T>
+void BeginObject(std::string& out, T const& record) {
+  if constexpr (TellsFault<T>)
+    if (auto const fault = record.Fault(); !fault.IsEmpty()) throw CodecFault{fault.ToUtf8()};
+  out += '{';
 }
 
 /// Appends the fields of a record that are required or differ from their default.
@@ -152,5 +172,27 @@ Json EmptyObjectSchema() {
   schema["properties"] = Json::object();
   return schema;
 }
+
+/// An object of the fields.
+template <Described T>
+struct Codec<T> {
+  template <class Value>
+  static void Read(Value& in, T& value) {
+    static constexpr auto kReaders = MakeFieldReaders<Value, T>();
+    value = T();
+    ReadObject(in, kReaders, value);
+  }
+  static void Write(std::string& out, T const& value) {
+    BeginObject(out, value);
+    WriteFields(out, value);
+    out += '}';
+  }
+  template <class Json>
+  static Json Schema() {
+    auto schema = EmptyObjectSchema<Json>();
+    AddFieldsToSchema<Json, T>(schema);
+    return schema;
+  }
+};
 
 }  // namespace Tarvex::Workbench

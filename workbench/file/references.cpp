@@ -126,21 +126,28 @@ std::vector<ReferenceField<Record>> const& ReferenceFields() {
   return kFields;
 }
 
+template <class Record>
+void VisitRecord(Record const& record, int number, Emitter& emitter) {
+  emitter.site.number = number;
+  for (auto const& field : ReferenceFields<Record>()) {
+    emitter.site.field = field.name;
+    field.visit(record, emitter);
+  }
+}
+
 }  // namespace
 
 void ForEachReference(CZelData const& model, Visit const& visit) {
   Targets const targets(model);
-  ForEachTable([&](auto const& row) {
-    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
-    Emitter emitter{targets, visit, {}};
+  Emitter emitter{targets, visit, {}};
+  ForEachOneOff([&](auto const& row) {
     emitter.site.table = row.stem;
-    for (auto const& [number, record] : (model.*row.all)()) {
-      emitter.site.number = static_cast<int>(number);
-      for (auto const& field : ReferenceFields<Record>()) {
-        emitter.site.field = field.name;
-        field.visit(record, emitter);
-      }
-    }
+    VisitRecord((model.*row.get)(), 0, emitter);
+  });
+  ForEachTable([&](auto const& row) {
+    emitter.site.table = row.stem;
+    for (auto const& [number, record] : (model.*row.all)())
+      VisitRecord(record, static_cast<int>(number), emitter);
   });
 }
 

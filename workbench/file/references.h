@@ -13,7 +13,7 @@ namespace Tarvex::Workbench {
 /// One reference that a record holds.
 struct ReferenceSite {
   std::string_view table;   ///< stem of the record's table
-  int number = 0;           ///< number of the record
+  int number = 0;           ///< number of the record, 0 for one that a model has once
   std::string_view field;   ///< with dots for a field of a field: "parentMember.member"
   int index = -1;           ///< place in a list, -1 for a single number
   int value = 0;            ///< the number that is referred to; 0 is none
@@ -21,10 +21,10 @@ struct ReferenceSite {
   bool exists = false;      ///< whether the target table has such a record
 };
 
-/// Calls visit for every reference field of every record, tables in the order of the registry and
-/// records in ascending number, empty references (0) included. The views of a site are good for
-/// the time of the program. Lists that are kept as text are not walked: what they select is the
-/// business of the lists.
+/// Calls visit for every reference field of every record, in the order of the registry and records
+/// in ascending number, empty references (0) included. The views of a site are good for the time of
+/// the program. Lists that are kept as text are not walked: what they select is the business of the
+/// lists.
 void ForEachReference(CZelData const& model,
                       std::function<void(ReferenceSite const&)> const& visit);
 

@@ -6,6 +6,7 @@
 #include <ranges>
 
 #include "store/model/registry.h"
+#include "store/model/saved_lists.h"
 #include "workbench/file/references.h"
 
 namespace Tarvex::Workbench {
@@ -92,11 +93,24 @@ void CheckAllNumbers(CZelData const& model, Findings& findings) {
   });
 }
 
+void CheckLists(CZelData const& model, Findings& findings) {
+  for (auto const& [n, list] : model.List()) {
+    SavedLists saved(model.List(), list.TypeOf());
+    for (auto const& missing : saved.MissingIn(Data::ListAccess::Text(list).Tokens()))
+      if (missing.number != 0)
+        findings.push_back({"dangling-reference", "List", static_cast<int>(n), "text", -1,
+                            missing.number, "List"});
+  }
+  for (int const n : ListsThatReachThemselves(model))
+    findings.push_back({"list-reaches-itself", "List", n, "text", -1, std::nullopt, ""});
+}
+
 }  // namespace
 
 std::vector<Finding> FindFaults(CZelData const& model) {
   Findings findings;
   AddDanglingReferences(model, findings);
+  CheckLists(model, findings);
   CheckTopologies(model, findings);
   CheckAllNumbers(model, findings);
   std::stable_sort(findings.begin(), findings.end(),

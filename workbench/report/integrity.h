@@ -27,6 +27,8 @@ struct Finding {
 ///   repeated-node         a node that stands twice in a topology
 ///   wrong-topology-count  a topology without as many nodes as its shape has, 3 at least in a panel
 ///   dimension-not-finite  a number that is not finite
+///   list-reaches-itself   a saved list that leads back to itself, and so selects nothing
+/// A reference from list to list by number is among the dangling references.
 std::vector<Finding> FindFaults(CZelData const& model);
 
 }  // namespace Tarvex::Workbench

@@ -25,16 +25,24 @@ Lists ListsOf(CZelData const& model) {
   return lists;
 }
 
-/// A random change of topology or nodes of a model whose numbers run to about 30.
+/// How many numbers random changes draw from, and whether nodes are stored raw too. A raw store
+/// leads to a full rebuild, which would hide what the changes before it did wrong.
+struct Range {
+  int entities = 20;
+  int nodes = 30;
+  bool raw = true;
+};
+
+/// A random change of topology or nodes of a model.
 class Changes {
  public:
-  explicit Changes(Random& random) : m_random(random) {}
+  explicit Changes(Random& random, Range const& range = {}) : m_random(random), m_range(range) {}
 
   void Apply(CZelData& model) {
-    int const n = m_random.Int(1, 20);
-    switch (m_random.Int(0, 11)) {
+    int const n = m_random.Int(1, m_range.entities);
+    switch (m_random.Int(m_range.raw ? 0 : 1, 11)) {
       case 0:
-        return model.SetElem(n, Testing::Element(AnyType(), AnyNodes()));
+        return model._SetNode(AnyNode(), Data::CNode());
       case 1:
         return model.SetLoadPanel(n, Testing::Panel(AnyNodes()));
       case 2:
@@ -49,7 +57,7 @@ class Changes {
       case 6:
         return model.BlankNode(AnyNode(), m_random.Int(0, 3));
       case 7:
-        return model._SetNode(AnyNode(), Data::CNode());
+        return model.SetElem(n, Testing::Element(AnyType(), AnyNodes()));
       case 8:
         return CopyNode(model);
       case 9:
@@ -60,11 +68,11 @@ class Changes {
   }
 
  private:
-  int AnyNode() { return m_random.Int(1, 30); }
+  int AnyNode() { return m_random.Int(1, m_range.nodes); }
   ElementType AnyType() { return static_cast<ElementType>(m_random.Int(1, 26)); }
   std::vector<int> AnyNodes() {
     std::vector<int> nodes(static_cast<std::size_t>(m_random.Int(0, 8)));
-    for (int& node : nodes) node = m_random.Int(0, 30);
+    for (int& node : nodes) node = m_random.Int(0, m_range.nodes);
     return nodes;
   }
   void SetTopo(CZelData& model, int n) {
@@ -79,15 +87,19 @@ class Changes {
   }
 
   Random& m_random;
+  Range m_range;
 };
 
 TEST(AttachmentsProperty, FollowEveryOperation) {
-  Random random(1);
-  Changes changes(random);
-  CZelData model;
-  for (int i = 0; i < 3000; ++i) {
-    changes.Apply(model);
-    ASSERT_TRUE(AttachmentsFollowTopology(model)) << "operation " << i;
+  for (Range const& range : {Range{}, Range{20, 30, false}, Range{3, 12, false}}) {
+    Random random(1);
+    Changes changes(random, range);
+    CZelData model;
+    for (int i = 0; i < 2000; ++i) {
+      changes.Apply(model);
+      ASSERT_TRUE(AttachmentsFollowTopology(model))
+          << "operation " << i << " on " << range.entities << " entities";
+    }
   }
 }
 

@@ -122,6 +122,15 @@ TEST_F(Attachments, GoWithTheNodeAndComeBackUnderItsNumber) {
   EXPECT_EQ(Attached(model), "1|1|4|4|");
 }
 
+TEST_F(Attachments, OfANodeThatNothingNamesAnyLongerDoNotComeBack) {
+  model.SetElem(3, Element(ElementType::Beam, {4, 6}));
+  model.SetNode(6, CNode());
+  model.BlankElem(3, 1);
+  model.BlankNode(6, 1);
+  model.SetNode(6, CNode());
+  EXPECT_EQ(Attached(model), "1|1 2|2|||");
+}
+
 TEST_F(Attachments, NameAnEntityOnceForRepeatedNodes) {
   model.SetElem(3, Element(ElementType::Quad4, {4, 5, 4, 4}));
   EXPECT_EQ(Attached(model), "1|1 2|2|3|3");
@@ -228,6 +237,19 @@ TEST_F(Attachments, AreBuiltOnceByTheFirstQueryAfterAFlag) {
   EXPECT_EQ(Attached(model), "1|1 2|2||");
 }
 
+TEST_F(Attachments, AreBuiltOnceForAFlagWhateverBuildsThem) {
+  model.rebuildHold = true;
+  model.SetElem(3, Element(ElementType::Beam, {4, 5}));
+  model.FlagRebuild();
+  EXPECT_EQ(model.Node(4).NumEntAttached(SelElement), 1);  // the one query
+  model.BlankElem(3, 1);
+  EXPECT_EQ(Attached(model), "1|1 2|2|3|3");
+  model.FlagRebuild();
+  model.InitNodalUseElem();
+  model.BlankElem(2, 1);
+  EXPECT_EQ(Attached(model), "1|1 2|2||");
+}
+
 TEST_F(Attachments, AreBuiltByTheFirstQueryOfAHoldThatBeganWithAFlag) {
   model.FlagRebuild();
   model.rebuildHold = true;
@@ -246,6 +268,15 @@ TEST_F(Attachments, AreBuiltAtOnceOnRequestInAHold) {
   EXPECT_EQ(Attached(model), "1|1 2|2|3|3");
   model.InitNodalUseElem();
   EXPECT_EQ(Attached(model), "|2|2|3|3");
+}
+
+TEST_F(Attachments, DoNotComeToANewNodeWhileAHoldIsUp) {
+  model.SetElem(3, Element(ElementType::Beam, {5, 6}));
+  model.rebuildHold = true;
+  model.SetNode(6, CNode());
+  EXPECT_EQ(Attached(model), "1|1 2|2||3|");
+  model.rebuildHold = false;
+  EXPECT_EQ(Attached(model), "1|1 2|2||3|3");
 }
 
 TEST_F(Attachments, AreTrueAgainOnceTheHoldIsDown) {

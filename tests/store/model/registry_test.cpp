@@ -36,6 +36,7 @@ struct Row {
 
 using Data::CAxis;
 using Data::CElement;
+using Data::CEntList;
 using Data::CNode;
 using Data::LoadPanel;
 
@@ -78,6 +79,14 @@ auto Rows() {
                  [](CZelData const& m) { return m.HighestAxis(); },
                  [](CZelData& m, int n, CAxis const& r, SidMode s) { m.SetAxis(n, r, s); },
                  [](CZelData& m, int first, int count) { m.BlankAxis(first, count); }},
+      Row<CEntList>{"List", -1, WithSid(CEntList(L"a", SelNode, L"1 to 5")),
+                    CEntList(L"b", SelElement, L"all not 3"),
+                    [](CZelData const& m, int n) { return m.ListExist(n); },
+                    [](CZelData const& m, int n) -> CEntList const& { return m.List(n); },
+                    [](CZelData const& m) -> WholeTable<CEntList> const& { return m.List(); },
+                    [](CZelData const& m) { return m.HighestList(); },
+                    [](CZelData& m, int n, CEntList const& r, SidMode s) { m.SetList(n, r, s); },
+                    [](CZelData& m, int first, int count) { m.BlankList(first, count); }},
   };
 }
 
@@ -279,6 +288,7 @@ TEST(Modules, AnswerForTheirTable) {
   ForEachRow([](auto const& row, CZelData&) {
     CZelData model;
     auto const module = static_cast<CModule::ModuleId>(row.module);
+    if (module == CModule::None) return;
     EXPECT_EQ(model.HighestRecord(module), 0);
     row.set(model, 3, row.a, SidMode::Keep);
     EXPECT_EQ(model.HighestRecord(module), 3);
@@ -321,6 +331,7 @@ TEST(Modules, AreOneRowEach) {
 TEST(Modules, WithoutATableAreEmpty) {
   CZelData model;
   Testing::Grid(model, 2, 2);
+  model.SetList(1, CEntList(L"a", SelNode, L"1"));  // a table without a module number
   CZelData const before(model);
   for (auto const module :
        {CModule::None, static_cast<CModule::ModuleId>(0), static_cast<CModule::ModuleId>(9999)}) {

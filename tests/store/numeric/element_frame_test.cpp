@@ -174,6 +174,7 @@ TEST(IsHorizontal, ComparesTheSineWithTheTolerance) {
   EXPECT_TRUE(IsHorizontal({3, 0, 4}, 0.8));
   EXPECT_FALSE(IsHorizontal({3, 0, 4}, std::nextafter(0.8, 0)));
   EXPECT_TRUE(IsHorizontal({3, 0, -4}, 0.8));
+  EXPECT_FALSE(IsHorizontal({3, 0, -4}, std::nextafter(0.8, 0)));
   EXPECT_TRUE(IsHorizontal({-1, 5, 0}, 0));
   EXPECT_FALSE(IsHorizontal({0, 0, 0}, 1));
 }

@@ -150,5 +150,42 @@ TEST(Set, AgreesWithAStandardSetUnderRandomOperations) {
   }
 }
 
+TEST(Set, IsMadeOfRuns) {
+  EXPECT_EQ(CSet(SelElement, Intervals{{-3, 2}, {63, 66}, {1000, 1000}}),
+            Of({1, 2, 63, 64, 65, 66, 1000}));
+  EXPECT_EQ(CSet(SelElement, Intervals()), Of({}));
+  EXPECT_NE(Testing::OutOfRangeText([] { CSet(SelElement, Intervals{{1, 100000001}}); }), "");
+}
+
+TEST(Set, GivesItsRuns) {
+  EXPECT_EQ(Of({1, 2, 63, 64, 65, 66, 1000}).Runs(), (Intervals{{1, 2}, {63, 66}, {1000, 1000}}));
+  EXPECT_TRUE(Of({}).Runs().IsEmpty());
+}
+
+TEST(Set, TurnsWhatIsInsideBoundsAround) {
+  auto set = Of({2, 5, 6, 90});
+  set.Invert(4, 8);
+  EXPECT_EQ(set, Of({2, 4, 7, 8, 90}));
+  set.Invert(4, 8);
+  EXPECT_EQ(set, Of({2, 5, 6, 90}));
+  set.Invert(8, 4);
+  EXPECT_EQ(set, Of({2, 5, 6, 90}));
+  set.Invert(0, 3);
+  EXPECT_EQ(set, Of({1, 3, 5, 6, 90}));
+  set.Invert(89, 200);
+  EXPECT_EQ(set.NumItem(), 4 + 111);  // 89 and 91 to 200 come, 90 goes
+}
+
+TEST(Set, WritesItsNumbersCompactly) {
+  auto const set = Of({1, 2, 3, 4, 5, 8, 10, 11});
+  EXPECT_EQ(set.String(-1, L""), L"1 to 5 8 10 11");
+  EXPECT_EQ(set.String(), L"1 to 5 8 10 11");
+  EXPECT_EQ(set.String(-1, L"nodes "), L"nodes 1 to 5 8 10 11");
+  EXPECT_EQ(set.String(4, L""), L"1 to 4 ...");
+  EXPECT_EQ(set.String(8, L""), L"1 to 5 8 10 11");
+  EXPECT_EQ(set.String(0, L""), L" ...");
+  EXPECT_EQ(Of({}).String(-1, L""), L"");
+}
+
 }  // namespace
 }  // namespace Tarvex::Util

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <ranges>
 #include <string>
 
 #include "store/table/paged_table.h"
@@ -150,6 +151,9 @@ class PagedTableProperty : public ::testing::Test {
     EXPECT_EQ(TableDifference(m_live.table, kept.table), PlainDifference(m_live.plain, kept.plain));
     bool const sameRevision = kept.table.Revision() == m_live.table.Revision();
     EXPECT_TRUE(!sameRevision || changes.empty());
+    bool const sameNumbers = kept.table.ExistenceRevision() == m_live.table.ExistenceRevision();
+    EXPECT_TRUE(!sameNumbers || std::ranges::equal(std::views::keys(kept.plain),
+                                                   std::views::keys(m_live.plain)));
   }
 
   void Step() {

@@ -209,6 +209,29 @@ TEST(PagedTable, TakesANewRevisionAtEveryChangeAndAtNoOther) {
   EXPECT_FALSE(changed());
 }
 
+TEST(PagedTable, TakesANewExistenceRevisionWhenNumbersComeOrGoAndAtNoOtherChange) {
+  auto table = Of({1, 2});
+  auto last = table.ExistenceRevision();
+  auto const changed = [&] { return std::exchange(last, table.ExistenceRevision()) != last; };
+  EXPECT_NE(last, PagedTable<std::string>().ExistenceRevision());
+  table.Set(1, std::string("x"));
+  table.Edit(1) = "y";
+  table.EditDerived(1);
+  EXPECT_FALSE(changed());
+  table.Set(3, std::string("z"));
+  EXPECT_TRUE(changed());
+  table.Remove(9, 5);
+  EXPECT_FALSE(changed());
+  table.Remove(2, 1);
+  EXPECT_TRUE(changed());
+  auto const copy = table;
+  EXPECT_EQ(copy.ExistenceRevision(), last);
+  auto moved = std::move(table);
+  EXPECT_EQ(moved.ExistenceRevision(), last);
+  moved.Clear();
+  EXPECT_NE(moved.ExistenceRevision(), last);
+}
+
 TEST(PagedTable, EditOfASharedRecordLeavesTheCopyAsItIs) {
   auto table = Of({1, 2});
   auto const copy = table;

@@ -3,6 +3,7 @@
 #include "workbench/file/codecs.h"
 
 #include "store/record/axis.h"
+#include "store/record/ent_list.h"
 #include "store/record/load_panel.h"
 #include "store/record/node.h"
 #include "store/record/spec.h"
@@ -205,6 +206,25 @@ TEST(AxisFields, AreWrittenWhereTheyDifferFromTheDefault) {
   ExpectAxis(other, R"(, "sid": "s", "colour": "#000020")");
 }
 
+TEST(ListFields, AreWrittenWhereTheyDifferFromTheDefault) {
+  auto const expect = [](Data::CEntList const& list, std::string const& fields) {
+    CZelData model;
+    model.SetList(3, list);
+    ExpectLine(model, "List", R"({"n": 3)" + fields + "}");
+  };
+  expect({}, "");
+  expect({SelNone, L"4 7"}, R"(, "text": "4 7")");
+  expect({SelElement, L""}, R"(, "kind": 2)");
+  expect({L"A", SelNode, L"1 to 10 not (3 5)"},
+         R"-(, "name": "A", "kind": 1, "text": "1 to 10 not (3 5)")-");
+  expect({SelElement, L"PB2 or \"a \u00e9\""},
+         ", \"kind\": 2, \"text\": \"PB2 or \\\"a \xC3\xA9\\\"\"");
+  Data::CEntList other;
+  other.SetSid(L"s");
+  other.SetColour(0xFF);
+  expect(other, R"(, "sid": "s", "colour": "#0000ff")");
+}
+
 /// Expects that a model without tables writes one entry, and reads back.
 void ExpectEntry(CZelData const& model, std::string const& entry) {
   EXPECT_EQ(Entries(model), ",\n  " + entry);
@@ -244,6 +264,12 @@ TEST(DefaultsFields, AreWrittenWhereTheyDifferFromTheDefault) {
   expect([](auto& d) { d.SetAnalysisTaskName(L"T #"); }, R"("analysisTaskName": "T #")");
   expect([](auto& d) { d.SetAnalysisCaseName(L""); }, R"("analysisCaseName": "")");
   expect([](auto& d) { d.SetCombinationCaseName(L"C"); }, R"("combinationCaseName": "C")");
+}
+
+TEST(ListsOfObjects, AreArraysInOrder) {
+  std::string text;
+  Codec<std::vector<Data::ParentMember>>::Write(text, {{2, 1}, {}, {0, 3}});
+  EXPECT_EQ(text, R"([{"member": 2, "replica": 1}, {}, {"replica": 3}])");
 }
 
 TEST(PlaneVectors, AreTwoNumbers) {

@@ -90,6 +90,10 @@ TEST(ScanJson, PointsAtValuesAndKeys) {
   EXPECT_EQ(PointerTo(json, 31), "/e");
 }
 
+TEST(ScanJson, KeepsPointersOnOneLine) {
+  EXPECT_EQ(PointerTo("{\"a\\n\\u0000\\u007f\": 1}", 1), "/a\\n\\u0000\x7F");
+}
+
 TEST(ScanJson, PointsAtAValueThatIsYetToCome) { EXPECT_EQ(PointerTo(R"({"a": [1, )", 10), "/a/1"); }
 
 TEST(PlaceInText, CountsLinesAndCharactersFromOne) {

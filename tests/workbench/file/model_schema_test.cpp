@@ -33,7 +33,7 @@ TEST(ModelSchema, HasOneEntryATableAndOneOffBehindTheHeader) {
   std::vector<std::string> const header{"$schema", "format", "version", "generator", "units"};
   ASSERT_GE(keys.size(), header.size());
   EXPECT_TRUE(std::equal(header.begin(), header.end(), keys.begin()));
-  for (auto const* key : {"Spec", "Defaults", "Node", "Elem", "LoadPanel", "Axis"})
+  for (auto const* key : {"Spec", "Defaults", "Node", "Elem", "LoadPanel", "Axis", "List"})
     EXPECT_EQ(std::count(keys.begin(), keys.end(), key), 1) << key;
 }
 

@@ -4,6 +4,7 @@
 #include <limits>
 #include <regex>
 
+#include "store/record/ent_list.h"
 #include "store/record/node.h"
 #include "store/record/spec.h"
 #include "tests/support/builders.h"
@@ -134,6 +135,12 @@ TEST(WriteModelText, RefusesValuesThatNoFileCanHold) {
   auto noType = model;
   noType.SetElem(1, Element(ElementType::None, {1}));
   EXPECT_EQ(RefusalOf(noType), "model: /Elem/0/type: unknown value 0");
+  auto wrongList = model;
+  Data::CEntList cases(SelCase, L"L1");
+  cases.SetType(SelElement);
+  wrongList.SetList(1, {});
+  wrongList.SetList(5, cases);
+  EXPECT_EQ(RefusalOf(wrongList), "model: /List/1: a case in a list of elements");
 }
 
 class WriteModelFile : public Testing::FolderTest {};

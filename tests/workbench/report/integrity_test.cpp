@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "store/record/axis.h"
+#include "store/record/ent_list.h"
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
@@ -136,6 +137,20 @@ TEST(FindFaults, FindsNumbersThatAreNotFiniteWhereverTheyStand) {
             (Finding{"dimension-not-finite", "Elem", 3, "offset.y", -1, std::nullopt, ""}));
   EXPECT_EQ(found[2],
             (Finding{"dimension-not-finite", "Elem", 4, "connect.stiffness", 5, std::nullopt, ""}));
+}
+
+TEST(FindFaults, FindsListsThatReachThemselvesAndReferToNone) {
+  auto model = Sound();
+  model.SetList(2, Data::CEntList(SelElement, L"1 #4"));
+  model.SetList(4, Data::CEntList(SelElement, L"#2 #7 \"other\""));
+  model.SetList(5, Data::CEntList(SelElement, L"#4"));
+  model.SetList(6, Data::CEntList(SelNode, L"#5"));  // which is of another kind
+  EXPECT_EQ(
+      FindFaults(model),
+      (std::vector<Finding>{{"dangling-reference", "List", 4, "text", -1, 7, "List"},
+                            {"dangling-reference", "List", 6, "text", -1, 5, "List"},
+                            {"list-reaches-itself", "List", 2, "text", -1, std::nullopt, ""},
+                            {"list-reaches-itself", "List", 4, "text", -1, std::nullopt, ""}}));
 }
 
 }  // namespace

@@ -1,0 +1,146 @@
+#include "store/model/list_words.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Tarvex::ListWords {
+namespace {
+
+enum class Rule { Property, Group, Coordinates };
+
+/// The co-ordinates that must agree, as bits.
+enum Axes : int { kNoAxis = 0, kX = 1, kY = 2, kZ = 4 };
+
+struct WordRow {
+  int token;
+  Rule rule;
+  CModule::ModuleId module = CModule::None;  ///< table of a property, None for any
+  int axes = kNoAxis;
+};
+
+constexpr std::array kRows{
+    WordRow{-15, Rule::Property, CModule::None},        // P
+    WordRow{-16, Rule::Property, CModule::Section},     // PB
+    WordRow{-17, Rule::Property, CModule::SpringProp},  // PS
+    WordRow{-18, Rule::Property, CModule::MassProp},    // PM
+    WordRow{-19, Rule::Property, CModule::Prop2D},      // PA
+    WordRow{-20, Rule::Property, CModule::LinkProp},    // PL
+    WordRow{-21, Rule::Property, CModule::CableProp},   // PC
+    WordRow{-22, Rule::Property, CModule::SpacerProp},  // PG
+    WordRow{-23, Rule::Property, CModule::Prop3D},      // PV
+    WordRow{-32, Rule::Property, CModule::DamperProp},  // PD
+    WordRow{-24, Rule::Group},                          // G
+    WordRow{-34, Rule::Coordinates, CModule::None, kX},
+    WordRow{-35, Rule::Coordinates, CModule::None, kY},
+    WordRow{-36, Rule::Coordinates, CModule::None, kX | kY},
+    WordRow{-37, Rule::Coordinates, CModule::None, kZ},
+    WordRow{-38, Rule::Coordinates, CModule::None, kZ | kX},
+    WordRow{-39, Rule::Coordinates, CModule::None, kY | kZ},
+};
+
+WordRow const* Find(int token) {
+  auto const* const row = std::find_if(kRows.begin(), kRows.end(), [&](WordRow const& candidate) {
+    return candidate.token == token;
+  });
+  return row == kRows.end() ? nullptr : row;
+}
+
+constexpr bool IsPropertyTable(CModule::ModuleId module) {
+  return module >= CModule::Section && module <= CModule::SpacerProp;
+}
+
+/// Whether a field of a record refers to a property of a table, or of any for CModule::None.
+template <class Record>
+bool HasProperty(Record const& record, CModule::ModuleId module, int number) {
+  bool has = false;
+  ForEachField<Record>([&](auto const& field) {
+    if constexpr (std::is_same_v<typename std::remove_cvref_t<decltype(field)>::Value, int>) {
+      if (has || field.target == nullptr || record.*field.member != number) return;
+      auto const target = field.target(record);
+      has = IsPropertyTable(target) && (module == CModule::None || module == target);
+    }
+  });
+  return has;
+}
+
+/// A node's place in the co-ordinates that a word compares.
+class Place {
+ public:
+  Place(ModelState const& state, int axes, int node)
+      : m_state(state), m_axes(axes), m_tolerance(state.spec.GenTol(TolType::Coincidence)) {
+    if (auto const* record = state.node.Find(node)) {
+      m_exists = true;
+      m_point = record->Position();
+    }
+  }
+
+  bool Has(Data::CNode const& node) const {
+    auto const away = node.Position() - m_point;
+    return m_exists && Agrees(kX, away.x) && Agrees(kY, away.y) && Agrees(kZ, away.z);
+  }
+  template <class Entity>
+  bool Has(Entity const& entity) const {
+    auto const& nodes = entity.Topology();
+    return !nodes.empty() && std::all_of(nodes.begin(), nodes.end(), [&](int n) {
+      auto const* node = m_state.node.Find(n);
+      return node != nullptr && Has(*node);
+    });
+  }
+
+ private:
+  bool Agrees(int axis, double away) const {
+    return (m_axes & axis) == 0 || std::abs(away) <= m_tolerance;
+  }
+
+  ModelState const& m_state;
+  int m_axes;
+  double m_tolerance;
+  bool m_exists = false;
+  Vec3<double> m_point;
+};
+
+/// The numbers of the entities of a kind that pass a test.
+template <class Test>
+Intervals Filter(ModelState const& state, SelType kind, Test&& test) {
+  Intervals all;
+  ForEachTableOf(state, kind, [&](auto const& table) {
+    Intervals found;
+    for (auto const& [n, record] : table) {
+      auto const number = static_cast<int>(n);
+      if (test(record)) found.Append({number, number});
+    }
+    all = Union(all, found);
+  });
+  return all;
+}
+
+}  // namespace
+
+Reads ReadsOf(int token) {
+  auto const* row = Find(token);
+  return {row != nullptr, row != nullptr && row->rule == Rule::Coordinates};
+}
+
+bool IsPropertyWord(int token) {
+  auto const* row = Find(token);
+  return row != nullptr && row->rule == Rule::Property;
+}
+
+Intervals Select(ModelState const& state, SelType kind, int token, int number) {
+  auto const* row = Find(token);
+  if (row == nullptr) return {};
+  if (row->rule == Rule::Property)
+    return Filter(state, kind,
+                  [&](auto const& record) { return HasProperty(record, row->module, number); });
+  if (row->rule == Rule::Coordinates)
+    return Filter(state, kind, [place = Place(state, row->axes, number)](auto const& record) {
+      return place.Has(record);
+    });
+  return Filter(state, kind, [&](auto const& record) {
+    if constexpr (requires { record.Group(); }) return record.Group() == number;
+    return false;
+  });
+}
+
+}  // namespace Tarvex::ListWords
