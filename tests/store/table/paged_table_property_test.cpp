@@ -152,8 +152,8 @@ class PagedTableProperty : public ::testing::Test {
     bool const sameRevision = kept.table.Revision() == m_live.table.Revision();
     EXPECT_TRUE(!sameRevision || changes.empty());
     bool const sameNumbers = kept.table.ExistenceRevision() == m_live.table.ExistenceRevision();
-    EXPECT_TRUE(!sameNumbers || std::ranges::equal(std::views::keys(kept.plain),
-                                                   std::views::keys(m_live.plain)));
+    EXPECT_TRUE(!sameNumbers ||
+                std::ranges::equal(std::views::keys(kept.plain), std::views::keys(m_live.plain)));
   }
 
   void Step() {
