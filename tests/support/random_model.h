@@ -19,8 +19,8 @@ class Random {
 
   /// A whole number from first to last.
   int Int(int first, int last) {
-    auto const count = static_cast<std::uint32_t>(last - first) + 1;
-    return first + static_cast<int>(m_engine() % count);
+    auto const count = static_cast<long long>(last) - first + 1;
+    return static_cast<int>(first + static_cast<long long>(m_engine()) % count);
   }
   /// A number from first up to, and without, last.
   double Real(double first, double last) {
