@@ -19,6 +19,8 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/tarvexConfigVersion.cmak
 install(FILES "${PROJECT_BINARY_DIR}/tarvexConfig.cmake"
   "${PROJECT_BINARY_DIR}/tarvexConfigVersion.cmake" DESTINATION "${cmakedir}")
 
+# The way from the package file up to the prefix, so that an installation can be moved.
+file(RELATIVE_PATH TARVEX_UP_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/tarvex.pc.in" "${PROJECT_BINARY_DIR}/tarvex.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/tarvex.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 install(FILES "${PROJECT_SOURCE_DIR}/docs/model.schema.json"
