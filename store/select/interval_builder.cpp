@@ -97,7 +97,7 @@ Intervals const& IntervalBuilder::Merge() {
 
 Intervals IntervalBuilder::Take() {
   Merge();
-  auto const set = m_inverse ? Gaps(m_merged) : std::move(m_merged);
+  auto set = m_inverse ? Gaps(m_merged) : std::move(m_merged);
   *this = IntervalBuilder();
   return set;
 }

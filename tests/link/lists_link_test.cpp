@@ -61,6 +61,21 @@ TEST(ListsLink, ExpansionOnAModel) {
   EXPECT_TRUE(ListsThatReachThemselves(model).empty());
 }
 
+TEST(ListsLink, ReferencesBetweenSavedLists) {
+  EXPECT_TRUE(AreLinked(&SavedLists::Find, &SavedLists::Named, &SavedLists::ReferredBy,
+                        &SavedLists::MissingIn, &ReachLists));
+  CZelData model;
+  model.SetList(1, CEntList(L"frames", SelElement, L"#2 #7"));
+  model.SetList(2, CEntList(L"columns", SelElement, L"1 2"));
+  SavedLists lists(model.List(), SelElement);
+  EXPECT_EQ(lists.Find(2), &model.List(2));
+  EXPECT_EQ(lists.Named(L"columns"), 2);
+  auto const tokens = *Data::ReadList(L"#2 #7", SelElement);
+  EXPECT_EQ(lists.ReferredBy(tokens), std::vector{2});
+  EXPECT_EQ(lists.MissingIn(tokens).size(), 1u);
+  EXPECT_EQ(ReachLists(lists, {1}).order, (std::vector{2, 1}));
+}
+
 TEST(ListsLink, WordsOfLists) {
   EXPECT_TRUE(AreLinked(&Data::ListWords, &Data::IsListWord, &Data::IsPrefixWord,
                         &Data::ReadListTokens, &Data::WriteListTokens));
