@@ -65,7 +65,8 @@ class JsonKey {
   /// The key with its escapes read.
   std::string Text() const {
     std::string text;
-    ReadJsonString({m_text, m_end}, 0, text);
+    auto const read = ReadJsonString({m_text, m_end}, 0, text);
+    if (read.fault != nullptr) Fail(read.fault);
     return text;
   }
   [[noreturn]] void Fail(std::string text) const {

@@ -42,6 +42,8 @@ std::vector<FaultRow> TextFaults() {
       {"SecondClosingBrace", ModelFile("") + "}", "6:1: text behind the end of the model"},
       {"MissingComma", ModelFile(",\n\"Node\": [\n{\"n\": 1 \"position\": [0, 0, 0]}\n]"),
        "6:9: /Node/0: expected \",\" or \"}\", found \"\\\"\""},
+      {"BadEscapeBehindAKnownKey", ModelFile(",\n\"Axis\": [\n{\"n\": 1, \"type\\q\": 1}]"),
+       "6:15: /Axis/0: an unknown escape in a string"},
       {"ColonBehindText", ModelFile(",\n\"Axis\": [\n{\"n\": 1, \"name\": \"a\": [1]}, []]"),
        "6:21: /Axis/0: expected \",\" or \"}\", found \":\""},
       {"ColonBehindNumber", ModelFile(",\n\"Axis\": [\n{\"n\": 1: 2}]"),
