@@ -110,7 +110,8 @@ Vec3<double> EntityQueries::Coor(int n, int place, EntAt at) const {
   auto const p = Position(state, EntTopo({SelElement, n}, place));
   if (!p) return {};
   auto const* element = state.elem.Find(n);
-  if (at == EntAt::Nodes || element == nullptr || element->Is3D()) return *p;
+  bool const offsets = element != nullptr && (element->Is1D() || element->Is2D());
+  if (at == EntAt::Nodes || !offsets) return *p;
   auto const& offset = element->Offset();
   // The ends of a line are offset in three directions, a plate along its normal only.
   auto const local =

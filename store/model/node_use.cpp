@@ -50,15 +50,47 @@ bool Holds(std::span<int const> nodes, int node) {
   return std::find(nodes.begin(), nodes.end(), node) != nodes.end();
 }
 
-/// The attachments of all nodes as flat arrays: those of node n stand from first[n] to first[n +
-/// 1].
+/// Places of the nodes in flat arrays: by number where the numbers are dense, else by rank, so that
+/// one node of a very high number costs no memory.
+class NodePlaces {
+ public:
+  explicit NodePlaces(PagedTable<Data::CNode> const& nodes) {
+    auto const highest = static_cast<std::size_t>(nodes.Highest());
+    m_dense = highest / 4 <= nodes.size();
+    m_count = m_dense ? highest : nodes.size();
+    if (m_dense) return;
+    m_numbers.reserve(nodes.size());
+    for (int n = nodes.Next(0); n != 0; n = nodes.Next(n)) m_numbers.push_back(n);
+  }
+
+  std::size_t Count() const { return m_count; }
+  /// The place of a node, Count() for one that does not exist and has none.
+  std::size_t Of(int node) const {
+    if (m_dense) {
+      bool const inRange = node >= 1 && static_cast<std::size_t>(node) <= m_count;
+      return inRange ? static_cast<std::size_t>(node) - 1 : m_count;
+    }
+    auto const found = std::lower_bound(m_numbers.begin(), m_numbers.end(), node);
+    bool const is = found != m_numbers.end() && *found == node;
+    return is ? static_cast<std::size_t>(found - m_numbers.begin()) : m_count;
+  }
+
+ private:
+  bool m_dense = false;
+  std::size_t m_count = 0;
+  std::vector<int> m_numbers;  // ascending; empty where dense
+};
+
+/// The attachments of all nodes as flat arrays: those of place i stand from first[i] to
+/// first[i + 1].
 struct FlatUse {
+  NodePlaces places;
   std::vector<std::size_t> first;
   std::vector<int> entities;
 
   std::span<int const> Of(int node) const {
-    auto const n = static_cast<std::size_t>(node);
-    return {entities.data() + first[n], first[n + 1] - first[n]};
+    auto const i = places.Of(node);
+    return {entities.data() + first[i], first[i + 1] - first[i]};
   }
 };
 
@@ -79,20 +111,17 @@ void ForEachTopology(ModelState const& state, Visit&& visit) {
 }
 
 FlatUse GatherElements(ModelState const& state) {
-  int const highest = state.node.Highest();
-  FlatUse use;
-  use.first.assign(static_cast<std::size_t>(highest) + 2, 0);
-  auto const known = [&](int node) { return node >= 1 && node <= highest; };
+  FlatUse use{NodePlaces(state.node), {}, {}};
+  auto const count = use.places.Count();
+  use.first.assign(count + 2, 0);
   ForEachTopology(state, [&](int, Data::TopoVector const& nodes) {
-    for (int const node : nodes)
-      if (known(node)) ++use.first[static_cast<std::size_t>(node) + 1];
+    for (int const node : nodes) ++use.first[use.places.Of(node) + 1];
   });
   for (std::size_t i = 1; i < use.first.size(); ++i) use.first[i] += use.first[i - 1];
   use.entities.resize(use.first.back());
   auto next = use.first;
   ForEachTopology(state, [&](int number, Data::TopoVector const& nodes) {
-    for (int const node : nodes)
-      if (known(node)) use.entities[next[static_cast<std::size_t>(node)]++] = number;
+    for (int const node : nodes) use.entities[next[use.places.Of(node)]++] = number;
   });
   return use;
 }

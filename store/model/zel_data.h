@@ -77,7 +77,7 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
   bool RecordExist(CModule::ModuleId module, int n) const;
   /// For 110 it covers load panels.
   int HighestRecord(CModule::ModuleId module) const;
-  /// Empties a table; 110 both elements and load panels.
+  /// Empties a table but for records that a tool has locked; 110 both elements and load panels.
   void RemoveModule(CModule::ModuleId module);
 
   // State.

@@ -13,6 +13,19 @@ bool CDirCos::Assign(Vec3<double> const& x, Vec3<double> const& xy) {
   return true;
 }
 
+bool CDirCos::AssignNormal(Vec3<double> const& z, Vec3<double> const& xz) {
+  m_axes = CDirCos().m_axes;
+  auto const ez = Unit(z);
+  auto x = xz - ez * Dot(xz, ez);
+  if (ez == Vec3<double>{} || Length(x) < kZeroLength) return false;
+  x = x / Length(x);
+  x = x -
+      ez * Dot(x, ez);  // once more: the first remainder may be small against what was taken off
+  auto const ex = Unit(x);
+  m_axes = {ex, Cross(ez, ex), ez};
+  return true;
+}
+
 Vec3<double> CDirCos::AxisVec(Direction axis, bool positive) const {
   auto const& v = m_axes[static_cast<std::size_t>(axis - Direction::X) % 3];
   return positive ? v : -v;

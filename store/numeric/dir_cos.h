@@ -23,6 +23,11 @@ class TARVEX_STORE_EXPORT CDirCos {
   /// shorter than 1e-10 or they are parallel).
   bool Assign(Vec3<double> const& x, Vec3<double> const& xy);
 
+  /// Sets the frame from its z direction, kept to the last bit of its unit vector, and a vector in
+  /// the positive half of its xz plane.
+  /// @return false, and the frame becomes the global one, when the two have no plane, as Assign.
+  bool AssignNormal(Vec3<double> const& z, Vec3<double> const& xz);
+
   /// Unit vector of an axis. @param positive false gives the opposite vector.
   Vec3<double> AxisVec(Direction axis, bool positive = true) const;
 

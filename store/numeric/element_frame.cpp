@@ -44,12 +44,11 @@ Vec3<double> PolygonNormal(std::span<Vec3<double> const> points) {
 
 CDirCos PlateFrame(std::span<Vec3<double> const> corners, double angle) {
   CDirCos frame;
-  auto const z = Unit(PolygonNormal(corners));
-  if (z == Vec3<double>{}) return frame;
+  auto const z = PolygonNormal(corners);
+  if (Unit(z) == Vec3<double>{}) return frame;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     auto const edge = corners[(i + 1) % corners.size()] - corners[i];
-    auto const x = edge - z * Dot(edge, z);
-    if (!frame.Assign(x, Cross(z, x))) continue;  // corners that fall together: the next edge
+    if (!frame.AssignNormal(z, edge)) continue;  // corners that fall together: the next edge
     if (angle != 0) frame.Rotate(Direction::Z, Radians(angle));
     return frame;
   }

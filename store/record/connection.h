@@ -24,8 +24,8 @@ class CElemConnect {
   double Stiffness(Direction d) const { return m_stiffness[Place(d)]; }
   void SetStiffness(Direction d, double stiffness) { m_stiffness[Place(d)] = stiffness; }
 
-  /// True when nothing is released and no stiffness is set.
-  bool IsNone() const { return *this == CElemConnect(); }
+  /// True when nothing is released and no stiffness is set; a stiffness of -0 is none.
+  bool IsNone() const { return m_release.IsNone() && m_stiffness == std::array<double, 6>{}; }
 
   friend bool operator==(CElemConnect const& a, CElemConnect const& b) { return Same(a, b); }
   static constexpr auto Fields() {

@@ -12,7 +12,9 @@ CElement::CElement(int group, ElementType type, int property)
 void CElement::SetType(ElementType type) {
   auto const corners = std::min(Shape().corners, ShapeOf(type).corners);
   bool const sameCorners = Shape().corners == ShapeOf(type).corners;
+  bool const shaped = Shape().dimension != 0 && ShapeOf(type).dimension != 0;
   m_type = type;
+  if (!shaped) return;
   auto const count = static_cast<std::size_t>(Shape().nodes);
   // Mid-side nodes mean the same place only in a shape of the same corners.
   if (!sameCorners) {

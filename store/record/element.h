@@ -27,7 +27,8 @@ class TARVEX_STORE_EXPORT CElement : public NamedEntity {
 
   ElementType Type() const { return m_type; }
   /// Sets the type and takes the topology to its length: corners stay, new positions hold node 0
-  /// and no release, positions that fall away lose theirs.
+  /// and no release, positions that fall away lose theirs. From or to a type without a shape the
+  /// topology stays as it is.
   void SetType(ElementType type);
   ElementShape const& Shape() const { return ShapeOf(m_type); }
 

@@ -49,7 +49,8 @@ class TARVEX_STORE_EXPORT CNode : public NamedEntity {
   void SetMeshSize(double size) { m_meshSize = size; }
 
   /// Numbers of the entities of a kind (elements with load panels, or members) whose topology holds
-  /// the node; none for another kind and for a node that stands in no model.
+  /// the node; none for another kind and for a node that stands in no model. The reference is good
+  /// until the next store of an entity or node: take a copy to go on with.
   boost::container::flat_set<int> const& AttachedEnt(SelType kind) const;
   int NumEntAttached(SelType kind) const { return static_cast<int>(AttachedEnt(kind).size()); }
 

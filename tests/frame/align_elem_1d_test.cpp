@@ -4,7 +4,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::AlignElem1dTest {
 namespace {
 
 using Testing::AxisAlong;
@@ -283,4 +283,4 @@ TEST(CAlignElem1D, LeavesTheRebuildHoldAlone) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::AlignElem1dTest

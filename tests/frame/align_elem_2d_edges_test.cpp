@@ -5,7 +5,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::AlignElem2dEdgesTest {
 namespace {
 
 using Testing::AxisAlong;
@@ -394,4 +394,4 @@ TEST(CAlignElem2DEdges, LeavesTheRebuildHoldAloneWhenItRefuses) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::AlignElem2dEdgesTest

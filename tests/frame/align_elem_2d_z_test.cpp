@@ -4,7 +4,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::AlignElem2dZTest {
 namespace {
 
 using Testing::AxisAlong;
@@ -167,4 +167,4 @@ TEST(CAlignElem2DZ, LeavesTheRebuildHoldAlone) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::AlignElem2dZTest

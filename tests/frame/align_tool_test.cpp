@@ -6,7 +6,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::AlignToolTest {
 namespace {
 
 using Testing::AnySelection;
@@ -168,4 +168,4 @@ TEST(AlignTool, TakesTheAxisThatIsInTheModelWhenItRuns) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::AlignToolTest

@@ -7,7 +7,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::FlipElem2dOracleTest {
 namespace {
 
 using Testing::NormalAt;
@@ -301,4 +301,4 @@ TEST(CFlipElem2DOracle, AttachedElemIsASearchThroughAllElements) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FlipElem2dOracleTest

@@ -7,7 +7,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::FlipElem2dTest {
 namespace {
 
 using Testing::Differences;
@@ -617,4 +617,4 @@ TEST(CFlipElem2D, LeavesAttachmentsTrue) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FlipElem2dTest

@@ -6,7 +6,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::FlipSpinTest {
 namespace {
 
 using Testing::IsUnchanged;
@@ -196,4 +196,4 @@ TEST(SpinElement, ChangesTheTopologyOfAPanelOnly) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FlipSpinTest

@@ -7,7 +7,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::FlipTest {
 namespace {
 
 using Testing::Differences;
@@ -407,4 +407,4 @@ TEST(FlipEntity, RefusesOtherKindsThoughTheNumberIsAnElement) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FlipTest

@@ -9,7 +9,7 @@
 #include "tarvex/orientation.h"
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::OrientationPropertyTest {
 namespace {
 
 using Testing::AnySelection;
@@ -283,4 +283,4 @@ TEST(OrientationProperty, LeavesTheCornersOfOffsetPlatesWhereTheyAreWhenTheirNor
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::OrientationPropertyTest

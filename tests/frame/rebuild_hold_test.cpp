@@ -8,7 +8,7 @@
 
 #include "tests/frame/orientation_support.h"
 
-namespace Tarvex {
+namespace Tarvex::RebuildHoldTest {
 namespace {
 
 TEST(RebuildHold, IsUpWithinItsScopeAndDownBehindIt) {
@@ -80,4 +80,4 @@ TEST(RebuildHold, LetsTheFirstQuerySeeWhatChangedBeforeItAndNoLaterOneUntilItEnd
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RebuildHoldTest

@@ -5,7 +5,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::EntityQueriesLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -37,4 +37,4 @@ TEST(EntityQueriesLink, QueriesOfReferences) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::EntityQueriesLinkTest

@@ -6,7 +6,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::EntityTablesLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -65,4 +65,4 @@ TEST(EntityTablesLink, LoadPanelAndVariantOperations) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::EntityTablesLinkTest

@@ -6,7 +6,7 @@
 #include "store/record/ent_list.h"
 #include "tests/link/linked.h"
 
-namespace Tarvex {
+namespace Tarvex::GeometryTablesLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -42,4 +42,4 @@ TEST(GeometryTablesLink, ListOperations) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::GeometryTablesLinkTest

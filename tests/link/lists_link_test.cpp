@@ -21,7 +21,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::ListsLinkTest {
 namespace {
 
 using Data::CEntList;
@@ -141,4 +141,4 @@ TEST(ListsLink, BuildersOfSets) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ListsLinkTest

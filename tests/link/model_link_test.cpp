@@ -8,7 +8,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::ModelLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -86,4 +86,4 @@ TEST(ModelLink, NodesByPosition) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ModelLinkTest

@@ -14,7 +14,7 @@
 #include "store/table/revision.h"
 #include "tests/link/linked.h"
 
-namespace Tarvex {
+namespace Tarvex::NumericLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -22,8 +22,8 @@ using Util::CDirCos;
 using Util::PointIndex;
 
 TEST(NumericLink, Frames) {
-  EXPECT_TRUE(AreLinked(&CDirCos::Assign, &CDirCos::AxisVec, &CDirCos::GtoL, &CDirCos::LtoG,
-                        &CDirCos::Rotate));
+  EXPECT_TRUE(AreLinked(&CDirCos::Assign, &CDirCos::AssignNormal, &CDirCos::AxisVec, &CDirCos::GtoL,
+                        &CDirCos::LtoG, &CDirCos::Rotate));
   CDirCos frame({0, 2, 0}, {-1, 0, 0});
   CDirCos copy(frame);
   CDirCos assigned;
@@ -70,4 +70,4 @@ TEST(NumericLink, Revisions) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::NumericLinkTest

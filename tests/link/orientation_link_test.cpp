@@ -8,7 +8,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::OrientationLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -95,4 +95,4 @@ TEST(OrientationLink, FreeFunctionsTurnEntities) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::OrientationLinkTest

@@ -10,7 +10,7 @@
 #include "store/record/variant_element.h"
 #include "tests/link/linked.h"
 
-namespace Tarvex {
+namespace Tarvex::RecordsLinkTest {
 namespace {
 
 using Data::CElement;
@@ -98,4 +98,4 @@ TEST(RecordsLink, ViewsOfElementsAndPanels) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RecordsLinkTest

@@ -6,7 +6,7 @@
 #include "tests/link/linked.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::RegistryLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -38,4 +38,4 @@ TEST(RegistryLink, ModulesAreFound) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RegistryLinkTest

@@ -13,7 +13,7 @@
 #include "store/select/topo_set.h"
 #include "tests/link/linked.h"
 
-namespace Tarvex {
+namespace Tarvex::SelectLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -91,4 +91,4 @@ TEST(SelectLink, FailedLookUpsAreCaughtAcrossTheBorder) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::SelectLinkTest

@@ -8,7 +8,7 @@
 #include "store/text/utf8.h"
 #include "tests/link/linked.h"
 
-namespace Tarvex {
+namespace Tarvex::TextLinkTest {
 namespace {
 
 using Testing::AreLinked;
@@ -42,4 +42,4 @@ TEST(TextLink, Utf8) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::TextLinkTest

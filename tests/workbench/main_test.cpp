@@ -9,7 +9,7 @@
 #include <fstream>
 #include <string>
 
-namespace Tarvex {
+namespace Tarvex::MainTest {
 namespace {
 
 /// The program as a child whose standard input and output are pipes.
@@ -85,4 +85,4 @@ TEST(Main, AReaderThatWentAwayIsNoCrash) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::MainTest

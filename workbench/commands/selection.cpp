@@ -24,9 +24,10 @@ constexpr std::array kKindWords{KindWord{"node", SelNode}, KindWord{"element", S
 CEntList ListOf(SelType kind, std::string const& text) {
   CEntList list(kind, L"");
   Data::ListFault fault{};
-  if (!list.SetString(CString::FromUtf8(text), &fault))
-    throw UsageError("--list: character " + std::to_string(fault.position + 1) + ": " +
-                     fault.reason.ToUtf8());
+  if (!list.SetString(CString::FromUtf8(text), &fault)) {
+    auto place = "--list: character " + std::to_string(fault.position + 1);
+    throw UsageError((place += ": ") += fault.reason.ToUtf8());
+  }
   return list;
 }
 

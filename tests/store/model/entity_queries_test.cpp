@@ -11,7 +11,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::EntityQueriesTest {
 namespace {
 
 using Testing::BeamAt;
@@ -273,6 +273,16 @@ TEST(Coordinates, OfALineAreOffsetInTheFrameThatItsAngleTurns) {
   EXPECT_TRUE(IsNear(model.Coor(n, 0), {0, 0, 1}));
 }
 
+TEST(Coordinates, OfATypeWithoutAShapeAreThoseOfItsNodes) {
+  CZelData model;
+  int const n = BeamAt(model, {1, 2, 3}, {4, 2, 3});
+  auto element = model.Elem(n);
+  element.SetOffset({0.5, 0, 0, 2});
+  element.SetType(static_cast<ElementType>(4));
+  model.SetElem(n, element);
+  EXPECT_EQ(model.Coor(n, 0), (V{1, 2, 3}));
+}
+
 TEST(Coordinates, OfAPlateAreOffsetAlongItsNormalOnly) {
   CZelData model;
   int const n = QuadAt(model, {0, 0, 0}, {0, 2, 0}, {0, 2, 2}, {0, 0, 2});  // normal X
@@ -416,4 +426,4 @@ TEST(Queries, FollowAChangeOfTheNodesAtOnce) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::EntityQueriesTest

@@ -11,7 +11,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::EntityTablesTest {
 namespace {
 
 using Data::CElement;
@@ -281,4 +281,4 @@ TEST(Shortcuts, TakeValuesOfTheirOwnModel) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::EntityTablesTest

@@ -5,7 +5,7 @@
 #include "store/model/zel_data.h"
 #include "store/record/axis.h"
 
-namespace Tarvex {
+namespace Tarvex::GeometryTablesTest {
 namespace {
 
 TEST(AxisZero, IsTheGlobalAxisInEveryModel) {
@@ -23,4 +23,4 @@ TEST(AxisZero, CannotBeStoredNorRemoved) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::GeometryTablesTest

@@ -8,7 +8,7 @@
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::GetNodeAtTest {
 namespace {
 
 using ZelUtil::GetNodeAt;
@@ -88,4 +88,4 @@ TEST(NodesAroundPoint, FollowsAnAssignedModel) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::GetNodeAtTest

@@ -10,7 +10,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/plain_list.h"
 
-namespace Tarvex {
+namespace Tarvex::ListExpansionPropertyTest {
 namespace {
 
 using Data::CEntList;
@@ -282,4 +282,4 @@ TEST(ListExpansionProperty, OfACompactTextIsTheSetItWasMadeOf) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ListExpansionPropertyTest

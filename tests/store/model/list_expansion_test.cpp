@@ -10,7 +10,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/plain_list.h"
 
-namespace Tarvex {
+namespace Tarvex::ListExpansionTest {
 namespace {
 
 using Data::CEntList;
@@ -444,4 +444,4 @@ TEST(ListExpansion, ForgetsItemsAtEveryChangeOfAList) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ListExpansionTest

@@ -7,7 +7,7 @@
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::ListWordsTest {
 namespace {
 
 using Data::CEntList;
@@ -177,4 +177,4 @@ TEST(ListWords, TakeOneNumberOnly) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ListWordsTest

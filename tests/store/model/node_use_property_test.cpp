@@ -7,7 +7,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex {
+namespace Tarvex::NodeUsePropertyTest {
 namespace {
 
 using Testing::AttachmentsFollowTopology;
@@ -168,4 +168,4 @@ TEST(AttachmentsProperty, FollowInRandomModels) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::NodeUsePropertyTest

@@ -7,7 +7,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::NodeUseTest {
 namespace {
 
 using Data::CNode;
@@ -309,6 +309,18 @@ TEST_F(Attachments, OfAHoldThatChangesNoTopologyStay) {
   EXPECT_EQ(Attached(model), "1|1 2|2||");
 }
 
+TEST_F(Attachments, AreBuiltOverNumbersWithWideHolesToo) {
+  model.SetNode(100000000, CNode({9, 9, 9}, 0, {}));
+  model.SetNode(5000000, CNode({8, 8, 8}, 0, {}));
+  model.rebuildHold = true;
+  model.SetElem(2, Element(ElementType::Tri3, {100000000, 2, 5000000}));
+  model.SetElem(3, Element(ElementType::Beam, {4999999, 100000000}));
+  model.rebuildHold = false;
+  EXPECT_EQ(model.Node(100000000).AttachedEnt(SelElement), (boost::container::flat_set<int>{2, 3}));
+  EXPECT_EQ(model.Node(5000000).AttachedEnt(SelElement), (boost::container::flat_set<int>{2}));
+  EXPECT_TRUE(AttachmentsFollowTopology(model));
+}
+
 TEST_F(Attachments, AreSeenByTheWholeTableToo) {
   model.rebuildHold = true;
   model.SetElem(3, Element(ElementType::Beam, {4, 5}));
@@ -350,4 +362,4 @@ TEST_F(Attachments, OfANodeThatIsStoredRawInAHoldWaitForTheNextBuild) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::NodeUseTest

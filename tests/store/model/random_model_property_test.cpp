@@ -8,7 +8,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex {
+namespace Tarvex::RandomModelPropertyTest {
 namespace {
 
 using Testing::ForEachRandomModel;
@@ -154,4 +154,4 @@ TEST(RandomModelProperty, IsTheSameForTheSameSeedAndAnotherForAnother) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RandomModelPropertyTest

@@ -9,7 +9,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::RegistryTest {
 namespace {
 
 using Testing::Differences;
@@ -344,4 +344,4 @@ TEST(Modules, WithoutATableAreEmpty) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RegistryTest

@@ -5,7 +5,7 @@
 #include "store/model/zel_data.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex {
+namespace Tarvex::SavedListsTest {
 namespace {
 
 using Data::CEntList;
@@ -134,4 +134,4 @@ TEST(SavedLists, AgreeWithATransitiveClosure) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::SavedListsTest

@@ -9,7 +9,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::UndoStepTest {
 namespace {
 
 using Testing::IsUnchanged;
@@ -204,4 +204,4 @@ TEST(SidMode, KeepsTheIdentifierOrDropsIt) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::UndoStepTest

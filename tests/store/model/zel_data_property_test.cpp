@@ -8,7 +8,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex {
+namespace Tarvex::ZelDataPropertyTest {
 namespace {
 
 using Testing::ForEachRandomModel;
@@ -134,4 +134,4 @@ TEST(ModelProperty, HasEndsAsFarApartAsTheLengthOfTheLine) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ZelDataPropertyTest

@@ -7,7 +7,7 @@
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::ZelDataTest {
 namespace {
 
 using Data::CNode;
@@ -296,4 +296,4 @@ TEST(Locks, AreNoPartOfEquality) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ZelDataTest

@@ -4,7 +4,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::BoxTest {
 namespace {
 
 CBox3D Box() {
@@ -55,4 +55,4 @@ TEST(Box3D, HoldsItsBoundaryAndNothingBeyond) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::BoxTest

@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::CellSizeTest {
 namespace {
 
 using Points = std::vector<Vec3<double>>;
@@ -63,4 +63,4 @@ TEST(SuitableCellSize, IsAnyPositiveSizeWithoutExtent) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::CellSizeTest

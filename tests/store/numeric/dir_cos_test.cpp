@@ -5,7 +5,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::DirCosTest {
 namespace {
 
 using Testing::IsNear;
@@ -52,6 +52,32 @@ TEST(DirCos, TakesVectorsDownToTheBoundOfALength) {
   CDirCos frame;
   EXPECT_TRUE(frame.Assign({1.1e-10, 0, 0}, {0, 0, 1.1e-10}));
   EXPECT_TRUE(frame.Assign({1, 0, 0}, {1, 1.1e-10, 0}));
+}
+
+TEST(DirCos, IsAssignedFromZAndAVectorInThePositiveXZPlane) {
+  CDirCos frame;
+  // z along Y; the other leans towards it: x is its part at a right angle to z, y = z cross x.
+  EXPECT_TRUE(frame.AssignNormal({0, 7, 0}, {-2, 100, 0}));
+  ExpectAxes(frame, {-1, 0, 0}, {0, 0, 1}, {0, 1, 0});
+}
+
+TEST(DirCos, OfANormalBecomesTheGlobalFrameWhereTheTwoHaveNoPlane) {
+  std::pair<V, V> const pairs[] = {
+      {{0, 0, 0}, {0, 1, 0}}, {{1, 0, 0}, {0, 0, 0}}, {{0, 0, 3}, {0, 0, -6}}};
+  for (auto const& [z, xz] : pairs) {
+    CDirCos frame({0, 1, 0}, {0, 0, 1});
+    EXPECT_FALSE(frame.AssignNormal(z, xz));
+    EXPECT_EQ(frame, CDirCos());
+  }
+}
+
+TEST(DirCos, OfANormalIsOrthonormalWhereTheOtherVectorIsNearlyParallel) {
+  V const z{0.6, 0.48, 0.64};
+  CDirCos frame;
+  ASSERT_TRUE(frame.AssignNormal(z, z * 1000.0 + V{1e-6, 0, 0}));
+  EXPECT_NEAR(Dot(frame.AxisVec(Direction::X), z), 0, 1e-15);
+  EXPECT_NEAR(Length(frame.AxisVec(Direction::X)), 1, 1e-15);
+  EXPECT_NEAR(Length(frame.AxisVec(Direction::Y)), 1, 1e-15);
 }
 
 TEST(DirCos, GivesOppositeAxisVectors) {
@@ -108,4 +134,4 @@ TEST(DirCos, IsOrthonormalAndKeepsVectorsThroughARoundTrip) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::DirCosTest

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex {
+namespace Tarvex::DirectionTest {
 namespace {
 
 TEST(Direction, HasTheNumbersOfTheAxes) {
@@ -23,4 +23,4 @@ TEST(Direction, StepsAndHasDistances) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::DirectionTest

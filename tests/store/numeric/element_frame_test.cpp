@@ -4,7 +4,7 @@
 
 #include "tests/support/matchers.h"
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::ElementFrameTest {
 namespace {
 
 using Testing::IsNear;
@@ -104,6 +104,18 @@ TEST(PlateFrame, HasZWhereTheCornersRunRightHanded) {
              {{0, 0, 1}, {0, 1, 0}, {-1, 0, 0}});
 }
 
+// A wall whose edges rise exactly stands exactly upright: z without a component, whatever its plan.
+TEST(PlateFrame, OfAnUprightWallHasALevelNormalToTheLastBit) {
+  for (int i = 1; i < 400; ++i) {
+    V const foot{0.1 * i, 7.3, 0};
+    V const along{std::cos(0.1 * i) * 3.7, std::sin(0.1 * i) * 3.7, 0};
+    V const up{0, 0, 3.1};
+    auto const frame =
+        PlateFrame(std::vector<V>{foot, foot + along, foot + along + up, foot + up}, 0);
+    EXPECT_EQ(frame.AxisVec(Direction::Z).z, 0) << i;
+  }
+}
+
 TEST(PlateFrame, TurnsXAndYByTheOrientationAngle) {
   std::vector<V> const quad{{0, 0, 0}, {2, 0, 0}, {2, 2, 0}, {0, 2, 0}};
   double const c = std::sqrt(3.0) / 2;  // cos 30 degrees
@@ -180,4 +192,4 @@ TEST(IsHorizontal, ComparesTheSineWithTheTolerance) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::ElementFrameTest

@@ -8,7 +8,7 @@
 #include <map>
 #include <random>
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::PointIndexTest {
 namespace {
 
 using Points = std::map<int, Vec3<double>>;
@@ -181,4 +181,4 @@ TEST(PointIndexProperty, FollowsRandomInsertionsAndErasures) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::PointIndexTest

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex {
+namespace Tarvex::Vbool6Test {
 namespace {
 
 std::string Bits(Vbool6 flags) {
@@ -77,4 +77,4 @@ TEST(Vbool6, KnowsThreeRestraintsByName) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::Vbool6Test

@@ -4,7 +4,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex {
+namespace Tarvex::VecTest {
 namespace {
 
 using V = Vec3<double>;
@@ -63,4 +63,4 @@ TEST(Unit, IsTheZeroVectorBelowItsBound) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::VecTest

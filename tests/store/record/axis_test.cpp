@@ -5,7 +5,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::AxisTest {
 namespace {
 
 TEST(Axis, IsTheGlobalAxisAtFirst) {
@@ -70,4 +70,4 @@ TEST(Axis, ComparesEveryField) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::AxisTest

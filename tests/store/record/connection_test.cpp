@@ -5,7 +5,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex {
+namespace Tarvex::ConnectionTest {
 namespace {
 
 CElemConnect Pinned() { return CElemConnect(Vbool6(false, false, false, false, true, true)); }
@@ -29,6 +29,15 @@ TEST(ElemConnect, KeepsAStiffnessADirection) {
   EXPECT_EQ(connect.Stiffness(Direction::XX), 40);
   EXPECT_EQ(connect.Stiffness(Direction::YY), 50);
   EXPECT_EQ(connect.Stiffness(Direction::ZZ), 60);
+}
+
+TEST(ElemConnect, TakesAStiffnessOfMinusZeroForNone) {
+  CElemConnect connect;
+  connect.SetStiffness(Direction::Y, -0.0);
+  EXPECT_TRUE(connect.IsNone());
+  Data::ConnectList list;
+  list.Set(1, connect);
+  EXPECT_TRUE(list.IsEmpty());
 }
 
 TEST(ElemConnect, ComparesEveryField) {
@@ -123,4 +132,4 @@ TEST(ConnectList, ComparesByContent) {
 
 }  // namespace InList
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ConnectionTest

@@ -9,7 +9,7 @@
 
 #include "store/numeric/element_frame.h"
 
-namespace Tarvex {
+namespace Tarvex::ElementShapeTest {
 namespace {
 
 struct Row {
@@ -228,4 +228,4 @@ TEST(SolidFaces, BeginWithTheNearFaceWhoseSecondPlaceIsItsLastNode) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ElementShapeTest

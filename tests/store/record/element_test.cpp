@@ -8,7 +8,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ElementTest {
 namespace {
 
 using Testing::Element;
@@ -224,6 +224,18 @@ TEST(Element, SetTypeKeepsTheReleasesOfPlacesThatStayOnly) {
   }
 }
 
+TEST(Element, SetTypeFromOrToATypeWithoutAShapeKeepsTheTopology) {
+  auto const shapeless = static_cast<ElementType>(4);
+  CElement element(1, ElementType::Quad4, 1);
+  element.SetTopo(std::vector{5, 6, 7, 8});
+  element.SetConnect(2, CElemConnect(Vbool6(1, 0, 0, 0, 0, 0)));
+  element.SetType(shapeless);
+  EXPECT_EQ(element.Topo(), (TopoVector{5, 6, 7, 8}));
+  EXPECT_TRUE(element.IsConnect());
+  element.SetType(ElementType::Tri3);
+  EXPECT_EQ(element.Topo(), (TopoVector{5, 6, 7, 8}));
+}
+
 TEST(Element, SetTypeKeepsEverythingElse) {
   auto element = Element(ElementType::Quad4, {1, 2, 3, 4});
   element.SetProperty(9);
@@ -281,4 +293,4 @@ TEST(Element, PointsByItsPropertyIntoTheTableOfItsType) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ElementTest

@@ -9,7 +9,7 @@
 #include "tests/support/plain_list.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::EntListTest {
 namespace {
 
 using Testing::OutOfRangeText;
@@ -311,4 +311,4 @@ TEST(EntList, AddsWhatItNamesToASet) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::EntListTest

@@ -5,7 +5,7 @@
 #include "store/record/node.h"
 #include "tests/support/print.h"
 
-namespace Tarvex {
+namespace Tarvex::EntityTest {
 namespace {
 
 // The bases are reached through nodes, which have no other text of their own.
@@ -56,4 +56,4 @@ TEST(StoreAccess, GivesNumbersThatAreNoPartOfEquality) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::EntityTest

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace Tarvex {
+namespace Tarvex::FieldTest {
 namespace {
 
 struct Inner {
@@ -81,4 +81,4 @@ TEST(Fields, AreVisitedInTheirOrder) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FieldTest

@@ -8,7 +8,7 @@
 #include "tests/support/print.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::LoadPanelTest {
 namespace {
 
 TEST(LoadPanel, HasNoNodesAtFirst) {
@@ -68,4 +68,4 @@ TEST(ParentMember, ComparesEveryField) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::LoadPanelTest

@@ -5,7 +5,7 @@
 #include "tests/support/print.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::NodeTest {
 namespace {
 
 TEST(Node, StandsAtTheOriginWithoutRestraintAtFirst) {
@@ -84,4 +84,4 @@ TEST(Node, ComparesEveryField) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::NodeTest

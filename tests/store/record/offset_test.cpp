@@ -5,7 +5,7 @@
 #include "tests/support/print.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::OffsetTest {
 namespace {
 
 TEST(Offset, IsNothingAtFirst) {
@@ -82,4 +82,4 @@ TEST(Offset, ComparesEveryField) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::OffsetTest

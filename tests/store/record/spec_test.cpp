@@ -7,7 +7,7 @@
 #include "tests/support/print.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::SpecTest {
 namespace {
 
 double const kInfinity = std::numeric_limits<double>::infinity();
@@ -106,4 +106,4 @@ TEST(OneOffs, CompareEveryField) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::SpecTest

@@ -6,7 +6,7 @@
 #include "tests/support/print.h"
 #include "tests/support/record_fields.h"
 
-namespace Tarvex {
+namespace Tarvex::VariantElementTest {
 namespace {
 
 using Data::CElement;
@@ -195,4 +195,4 @@ TEST(CopyAsType, BetweenElementsIsAChangeOfType) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::VariantElementTest

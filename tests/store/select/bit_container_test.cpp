@@ -7,7 +7,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/plain_list.h"
 
-namespace Tarvex {
+namespace Tarvex::BitContainerTest {
 namespace {
 
 using MyIterator = CBitContainer::MyIterator;
@@ -92,4 +92,4 @@ TEST(BitContainer, HoldsWhatASetHolds) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::BitContainerTest

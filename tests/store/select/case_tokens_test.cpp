@@ -6,7 +6,7 @@
 
 #include "store/select/numbers.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::CaseTokensTest {
 namespace {
 
 struct Row {
@@ -63,4 +63,4 @@ TEST(CaseTokens, TellRecordNumbers) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::CaseTokensTest

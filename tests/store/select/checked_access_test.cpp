@@ -8,7 +8,7 @@
 
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::CheckedAccessTest {
 namespace {
 
 using Testing::OutOfRangeText;
@@ -51,4 +51,4 @@ TEST(CheckedAccess, NamesABadKeyInFixedWords) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::CheckedAccessTest

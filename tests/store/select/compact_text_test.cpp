@@ -6,7 +6,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex {
+namespace Tarvex::CompactTextTest {
 namespace {
 
 CString Of(std::vector<int> const& numbers) { return CompactText(numbers); }
@@ -25,4 +25,4 @@ TEST(CompactText, WritesRunsAsTheirNumbers) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::CompactTextTest

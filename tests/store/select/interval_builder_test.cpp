@@ -8,7 +8,7 @@
 
 #include "tests/support/plain_list.h"
 
-namespace Tarvex {
+namespace Tarvex::IntervalBuilderTest {
 namespace {
 
 using Testing::Random;
@@ -147,4 +147,4 @@ TEST(IntervalBuilder, CutsALargeSetByMany) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::IntervalBuilderTest

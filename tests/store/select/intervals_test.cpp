@@ -8,7 +8,7 @@
 
 #include "tests/support/plain_list.h"
 
-namespace Tarvex {
+namespace Tarvex::IntervalsTest {
 namespace {
 
 using Testing::NumbersOf;
@@ -80,4 +80,4 @@ TEST(Intervals, CombineAsSetsOfNumbersDo) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::IntervalsTest

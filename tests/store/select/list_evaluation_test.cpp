@@ -9,7 +9,7 @@
 #include "tests/support/plain_list.h"
 #include "tests/support/print.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListEvaluationTest {
 namespace {
 
 using Testing::NumbersOf;
@@ -285,4 +285,4 @@ TEST(ListEvaluation, TakesManyOperatorsInEachOther) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListEvaluationTest

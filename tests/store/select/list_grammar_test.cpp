@@ -6,7 +6,7 @@
 #include "tests/support/plain_list.h"
 #include "tests/support/print.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListGrammarTest {
 namespace {
 
 using Testing::Random;
@@ -213,4 +213,4 @@ TEST(ListGrammar, TakesAHundredThousandWordsAndParentheses) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListGrammarTest

@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListMachineTest {
 namespace {
 
 /// Writes down what is done to it.
@@ -71,4 +71,4 @@ TEST(ListMachine, PutsUpWithParenthesesThatHaveNoPartner) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListMachineTest

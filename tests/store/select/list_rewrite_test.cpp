@@ -6,7 +6,7 @@
 #include "tests/support/plain_list.h"
 #include "tests/support/print.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListRewriteTest {
 namespace {
 
 using Testing::Random;
@@ -336,4 +336,4 @@ TEST(ListRewrite, ReadsBackWhatItWritesCompactly) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListRewriteTest

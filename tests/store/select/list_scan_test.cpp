@@ -4,7 +4,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListScanTest {
 namespace {
 
 using Part = ListElement::Part;
@@ -88,4 +88,4 @@ TEST(ListScan, PassesOverWhatMakesNoSenseAndTellsTheFirst) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListScanTest

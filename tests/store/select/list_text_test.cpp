@@ -4,7 +4,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListTextTest {
 namespace {
 
 ListText Of(std::wstring_view text) {
@@ -65,4 +65,4 @@ TEST(ListText, IsEqualByItsWords) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListTextTest

@@ -5,7 +5,7 @@
 #include "tests/support/print.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex::Data {
+namespace Tarvex::Data::ListTokensTest {
 namespace {
 
 using Words = std::vector<int>;
@@ -181,4 +181,4 @@ TEST(ListTokens, ReadsAndWritesAHundredThousandWords) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data
+}  // namespace Tarvex::Data::ListTokensTest

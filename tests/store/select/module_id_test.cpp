@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex {
+namespace Tarvex::ModuleIdTest {
 namespace {
 
 TEST(ModuleId, HasFixedNumbers) {
@@ -67,4 +67,4 @@ TEST(ModuleId, HasFixedNumbers) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ModuleIdTest

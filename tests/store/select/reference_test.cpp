@@ -6,7 +6,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex {
+namespace Tarvex::ReferenceTest {
 namespace {
 
 TEST(SelType, HasADisplayWord) {
@@ -78,4 +78,4 @@ TEST(CaseOp, HasBitValues) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ReferenceTest

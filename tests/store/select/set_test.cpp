@@ -8,7 +8,7 @@
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::SetTest {
 namespace {
 
 CSet Of(std::vector<int> const& numbers) {
@@ -188,4 +188,4 @@ TEST(Set, WritesItsNumbersCompactly) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::SetTest

@@ -4,7 +4,7 @@
 
 #include "tests/support/matchers.h"
 
-namespace Tarvex::Util {
+namespace Tarvex::Util::TopoSetTest {
 namespace {
 
 TEST(TopoSet, IsEmptyAtFirst) {
@@ -52,4 +52,4 @@ TEST(TopoSet, IsEqualByKindAndPairs) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Util
+}  // namespace Tarvex::Util::TopoSetTest

@@ -7,7 +7,7 @@
 
 #include "store/table/paged_table.h"
 
-namespace Tarvex {
+namespace Tarvex::HistoryTest {
 namespace {
 
 using Table = PagedTable<int, 2, 2>;  // pages of two records reach deep states with few
@@ -197,4 +197,4 @@ TEST(HistoryProperty, AgreesWithPlainMapsOverAMillionOperations) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::HistoryTest

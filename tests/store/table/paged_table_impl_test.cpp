@@ -7,7 +7,7 @@
 
 #include "store/table/paged_table.h"
 
-namespace Tarvex {
+namespace Tarvex::PagedTableImplTest {
 namespace {
 
 /// A record that counts its copies.
@@ -203,4 +203,4 @@ TEST(PagedTableFailure, DoesNotKeepItsRevisionWhenARecordIsLeftHalfReplaced) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::PagedTableImplTest

@@ -8,7 +8,7 @@
 #include "store/table/paged_table.h"
 #include "tests/support/random_model.h"
 
-namespace Tarvex {
+namespace Tarvex::PagedTablePropertyTest {
 namespace {
 
 using Testing::Random;
@@ -197,4 +197,4 @@ TYPED_TEST(PagedTableProperty, AgreesWithAMapUnderRandomOperations) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::PagedTablePropertyTest

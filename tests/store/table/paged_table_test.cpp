@@ -9,7 +9,7 @@
 
 #include "tests/support/matchers.h"
 
-namespace Tarvex {
+namespace Tarvex::PagedTableTest {
 namespace {
 
 using Testing::OutOfRangeText;
@@ -264,4 +264,4 @@ TEST(PagedTable, DifferenceOfACopyVisitsNothing) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::PagedTableTest

@@ -5,7 +5,7 @@
 #include <set>
 #include <thread>
 
-namespace Tarvex {
+namespace Tarvex::RevisionTest {
 namespace {
 
 TEST(Revision, NeverGivesANumberTwiceNorZero) {
@@ -28,4 +28,4 @@ TEST(Revision, GivesDifferentNumbersToThreads) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RevisionTest

@@ -6,7 +6,7 @@
 
 #include "tests/support/print.h"
 
-namespace Tarvex {
+namespace Tarvex::CstringTest {
 namespace {
 
 CString const kText(L"beam to beam");
@@ -117,4 +117,4 @@ TEST(CString, PassesTextThroughUtf8) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::CstringTest

@@ -8,7 +8,7 @@
 
 #include "store/text/cstring.h"
 
-namespace Tarvex {
+namespace Tarvex::FormatTest {
 namespace {
 
 template <class... Args>
@@ -129,4 +129,4 @@ TEST(Format, KnowsNoLocaleOfTheCLibrary) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::FormatTest

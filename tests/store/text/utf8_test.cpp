@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex::Text {
+namespace Tarvex::Text::Utf8Test {
 namespace {
 
 constexpr wchar_t kBad = 0xFFFD;
@@ -97,4 +97,4 @@ TEST(Utf8, PassesEveryCharacterThereAndBack) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Text
+}  // namespace Tarvex::Text::Utf8Test

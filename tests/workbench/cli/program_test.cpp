@@ -2,7 +2,7 @@
 
 #include "tests/workbench/run.h"
 
-namespace Tarvex {
+namespace Tarvex::ProgramTest {
 namespace {
 
 using Testing::RunTarvex;
@@ -220,4 +220,4 @@ TEST_F(Program, AnOptionTakesItsValueBehindAnEqualsSign) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ProgramTest

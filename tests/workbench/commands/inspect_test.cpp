@@ -2,7 +2,7 @@
 
 #include "tests/workbench/run.h"
 
-namespace Tarvex {
+namespace Tarvex::InspectTest {
 namespace {
 
 using Testing::RunTarvex;
@@ -83,4 +83,4 @@ TEST_F(Inspect, DiffOfAFileThatIsMissingIsFour) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::InspectTest

@@ -2,7 +2,7 @@
 
 #include "tests/workbench/run.h"
 
-namespace Tarvex {
+namespace Tarvex::OrientationTest {
 namespace {
 
 using Testing::RunTarvex;
@@ -141,4 +141,4 @@ TEST_F(OrientationCommand, AnAxisThatDoesNotExistIsRefusedWithThree) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::OrientationTest

@@ -3,7 +3,7 @@
 #include "tests/workbench/run.h"
 #include "workbench/commands/errors.h"
 
-namespace Tarvex {
+namespace Tarvex::RecipeTest {
 namespace {
 
 using Testing::RunTarvex;
@@ -110,4 +110,4 @@ TEST_F(Recipe, AnEmptyRecipeChangesNothing) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::RecipeTest

@@ -2,7 +2,7 @@
 
 #include "tests/workbench/run.h"
 
-namespace Tarvex {
+namespace Tarvex::ReferenceTest {
 namespace {
 
 std::string ReadSource(std::string const& name) {
@@ -27,4 +27,4 @@ TEST(Schema, ThePageInTheTreeIsFresh) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ReferenceTest

@@ -5,7 +5,7 @@
 #include "tests/workbench/run.h"
 #include "workbench/commands/errors.h"
 
-namespace Tarvex {
+namespace Tarvex::SelectionTest {
 namespace {
 
 using Testing::RunTarvex;
@@ -204,4 +204,4 @@ TEST(SixStorey, HasListsThatSelectAsManyAsItsPageSays) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::SelectionTest

@@ -39,7 +39,7 @@ extern "C" int fsync(int descriptor) {
   return static_cast<int>(::syscall(SYS_fsync, descriptor));
 }
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::AtomicFileTest {
 namespace {
 
 using Testing::Contents;
@@ -266,4 +266,4 @@ TEST_F(AtomicFile, WritesToStandardOutput) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::AtomicFileTest

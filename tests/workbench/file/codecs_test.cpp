@@ -12,7 +12,7 @@
 #include "tests/workbench/file/file_support.h"
 #include "workbench/file/model_writer.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::CodecsTest {
 namespace {
 
 using Testing::Element;
@@ -279,4 +279,4 @@ TEST(PlaneVectors, AreTwoNumbers) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::CodecsTest

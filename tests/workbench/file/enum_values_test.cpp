@@ -7,7 +7,7 @@
 #include "store/record/axis.h"
 #include "store/record/offset.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::EnumValuesTest {
 namespace {
 
 enum class Gaps { Two = 2, Seven = 7, Last = 127 };
@@ -34,4 +34,4 @@ TEST(EnumValues, OfElementTypesAreAllNumbersThatElementsMayHave) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::EnumValuesTest

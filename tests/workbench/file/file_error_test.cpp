@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::FileErrorTest {
 namespace {
 
 TEST(FileError, TellsAsMuchOfThePlaceAsThereIs) {
@@ -14,4 +14,4 @@ TEST(FileError, TellsAsMuchOfThePlaceAsThereIs) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::FileErrorTest

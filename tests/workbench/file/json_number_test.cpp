@@ -8,7 +8,7 @@
 #include <random>
 #include <string>
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::JsonNumberTest {
 namespace {
 
 std::string Shortest(double value) {
@@ -94,4 +94,4 @@ TEST(AppendJsonNumber, WritesWholeNumbersToTheirEnds) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::JsonNumberTest

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::JsonScanTest {
 namespace {
 
 /// The fault of a text as "offset pointer: reason"; empty when there is none.
@@ -118,4 +118,4 @@ TEST(Quoted, CutsLongTextsBetweenCharacters) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::JsonScanTest

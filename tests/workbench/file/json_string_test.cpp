@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::JsonStringTest {
 namespace {
 
 /// What a string, given from behind its opening quote, is read as; its fault with the offset.
@@ -67,4 +67,4 @@ TEST(AppendJsonString, EscapesOnlyWhatMustBe) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::JsonStringTest

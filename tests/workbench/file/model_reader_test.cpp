@@ -6,7 +6,7 @@
 #include "tests/support/matchers.h"
 #include "tests/workbench/file/file_support.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::ModelReaderTest {
 namespace {
 
 using Testing::Contents;
@@ -376,4 +376,4 @@ TEST_F(ReadModelFile, ReadsTheExample) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::ModelReaderTest

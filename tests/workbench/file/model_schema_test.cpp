@@ -5,7 +5,7 @@
 
 #include "tests/workbench/file/file_support.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::ModelSchemaTest {
 namespace {
 
 using Json = nlohmann::json;
@@ -74,4 +74,4 @@ TEST(ModelSchema, AllowsNoOtherKeys) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::ModelSchemaTest

@@ -12,7 +12,7 @@
 #include "tests/support/random_model.h"
 #include "tests/workbench/file/file_support.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::ModelWriterTest {
 namespace {
 
 using Testing::Contents;
@@ -177,4 +177,4 @@ TEST_F(WriteModelFile, ReplaceModelKeepsTheOldFile) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::ModelWriterTest

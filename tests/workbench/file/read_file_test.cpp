@@ -7,7 +7,7 @@
 
 #include "tests/workbench/file/file_support.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::ReadFileTest {
 namespace {
 
 class ReadFile : public Testing::FolderTest {};
@@ -53,4 +53,4 @@ TEST_F(ReadFile, TellsTheReason) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::ReadFileTest

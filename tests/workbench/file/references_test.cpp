@@ -6,7 +6,7 @@
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex::Workbench {
+namespace Tarvex::Workbench::ReferencesTest {
 namespace {
 
 using Testing::Element;
@@ -111,4 +111,4 @@ TEST(FindDanglingReferences, PassesOverTablesThatTheModelHasNot) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Workbench
+}  // namespace Tarvex::Workbench::ReferencesTest

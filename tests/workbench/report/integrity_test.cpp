@@ -9,7 +9,7 @@
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::IntegrityTest {
 namespace {
 
 using Workbench::FindFaults;
@@ -154,4 +154,4 @@ TEST(FindFaults, FindsListsThatReachThemselvesAndReferToNone) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::IntegrityTest

@@ -5,7 +5,7 @@
 #include "store/record/axis.h"
 #include "tests/support/builders.h"
 
-namespace Tarvex {
+namespace Tarvex::ReportTest {
 namespace {
 
 using Workbench::FindChanges;
@@ -76,4 +76,4 @@ TEST(ReportText, SaysThatNothingChangedAndThatARunWasDry) {
 }
 
 }  // namespace
-}  // namespace Tarvex
+}  // namespace Tarvex::ReportTest
