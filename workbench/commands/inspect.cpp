@@ -78,7 +78,7 @@ void Diff(CZelData& model, Arguments const& arguments, CommandResult& result) {
 constexpr std::array kDiffOptions{
     Option{"OTHER", "", ValueKind::FileBehind, "", "the model file to compare with"}};
 
-constexpr std::array kCommands{
+constexpr std::array kInspectCommands{
     Command{"info",
             "say what a model holds: tables, element types, extents",
             {},
@@ -94,6 +94,6 @@ constexpr std::array kCommands{
 
 }  // namespace
 
-std::span<Command const> InspectCommands() { return kCommands; }
+std::span<Command const> InspectCommands() { return kInspectCommands; }
 
 }  // namespace Tarvex::Workbench

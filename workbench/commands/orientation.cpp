@@ -144,7 +144,7 @@ void Spin(CZelData& model, Arguments const& arguments, CommandResult& result) {
       "it is not a 2D element or panel", result);
 }
 
-constexpr std::array kCommands{
+constexpr std::array kOrientationCommands{
     Command{"align-1d", "make 1D elements or members run along the positive sense of an axis",
             kAlign1dOptions, CommandKind::Changes, &Align1d},
     Command{"align-edges", "make the first edge of 2D elements and panels point along an axis",
@@ -161,6 +161,6 @@ constexpr std::array kCommands{
 
 }  // namespace
 
-std::span<Command const> OrientationCommands() { return kCommands; }
+std::span<Command const> OrientationCommands() { return kOrientationCommands; }
 
 }  // namespace Tarvex::Workbench

@@ -115,8 +115,9 @@ void RunRecipe(CZelData& model, Arguments const& arguments, CommandResult& resul
 
 constexpr std::array kOptions{Option{"RECIPE", "", ValueKind::FileBefore, "",
                                      "a file with one command a line, without model and output"}};
-constexpr std::array kCommands{Command{kRecipeCommand, "run a recipe: several commands in one step",
-                                       kOptions, CommandKind::Changes, &RunRecipe}};
+constexpr std::array kRecipeCommands{Command{kRecipeCommand,
+                                             "run a recipe: several commands in one step", kOptions,
+                                             CommandKind::Changes, &RunRecipe}};
 
 }  // namespace
 
@@ -134,6 +135,6 @@ std::vector<RecipeLine> SplitRecipe(std::string_view text, std::string const& na
   return lines;
 }
 
-std::span<Command const> RecipeCommands() { return kCommands; }
+std::span<Command const> RecipeCommands() { return kRecipeCommands; }
 
 }  // namespace Tarvex::Workbench

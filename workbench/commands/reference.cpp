@@ -90,7 +90,7 @@ void PrintSchema(CZelData&, Arguments const&, CommandResult& result) {
       std::make_shared<nlohmann::ordered_json>(nlohmann::ordered_json::parse(result.text));
 }
 
-constexpr std::array kCommands{
+constexpr std::array kReferenceCommands{
     Command{"schema", "print the JSON schema of model files", {}, CommandKind::Alone, &PrintSchema},
     Command{"reference",
             "print the reference of all commands",
@@ -107,6 +107,6 @@ std::string ReferencePage() {
   return page;
 }
 
-std::span<Command const> ReferenceCommands() { return kCommands; }
+std::span<Command const> ReferenceCommands() { return kReferenceCommands; }
 
 }  // namespace Tarvex::Workbench

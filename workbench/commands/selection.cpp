@@ -33,12 +33,11 @@ CEntList ListOf(SelType kind, std::string const& text) {
 
 void WarnOfMissingLists(CZelData const& model, CEntList const& list, CommandResult& result) {
   SavedLists saved(model.List(), list.TypeOf());
-  auto const kind = SelTypeLabel(list.TypeOf()).ToUtf8();
+  auto const reason = " is no saved list of " + SelTypeLabel(list.TypeOf()).ToUtf8() + "s";
   for (auto const& missing : saved.MissingIn(Data::ListAccess::Text(list).Tokens())) {
     auto const what = missing.number == 0 ? "'" + missing.name.ToUtf8() + "'"
                                           : "#" + std::to_string(missing.number);
-    result.warnings.push_back(
-        {"missing-list", "List", missing.number, what + " is no saved list of " + kind + "s"});
+    result.warnings.push_back({"missing-list", "List", missing.number, what + reason});
   }
 }
 
@@ -58,8 +57,9 @@ constexpr std::array kSelectOptions{
     Option{"--list", "TEXT", ValueKind::Text, "all", "the list text; docs/lists.md explains it"},
     Option{"--kind", "node|element|member", ValueKind::Choice, "element", "what the list names"}};
 
-constexpr std::array kCommands{Command{"select", "tell the entities that a list text selects",
-                                       kSelectOptions, CommandKind::Reads, &RunSelect}};
+constexpr std::array kSelectionCommands{Command{"select",
+                                                "tell the entities that a list text selects",
+                                                kSelectOptions, CommandKind::Reads, &RunSelect}};
 
 }  // namespace
 
@@ -85,6 +85,6 @@ Util::CSet SelectByOptions(CZelData const& model, SelType kind, Arguments const&
   return set;
 }
 
-std::span<Command const> SelectionCommands() { return kCommands; }
+std::span<Command const> SelectionCommands() { return kSelectionCommands; }
 
 }  // namespace Tarvex::Workbench

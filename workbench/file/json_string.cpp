@@ -34,9 +34,9 @@ bool IsHigh(unsigned code) { return code >= kHighFirst && code < kLowFirst; }
 bool IsLow(unsigned code) { return code >= kLowFirst && code < kSurrogateEnd; }
 
 /// Reads one string from left to right.
-class Reader {
+class StringReader {
  public:
-  Reader(std::string_view json, std::size_t at, std::string& utf8)
+  StringReader(std::string_view json, std::size_t at, std::string& utf8)
       : m_json(json), m_at(at), m_utf8(utf8) {}
 
   JsonString Read() {
@@ -136,7 +136,7 @@ void AppendEscape(std::string& json, char c) {
 }  // namespace
 
 JsonString ReadJsonString(std::string_view json, std::size_t at, std::string& utf8) {
-  return Reader(json, at, utf8).Read();
+  return StringReader(json, at, utf8).Read();
 }
 
 void AppendJsonCharacter(std::string& json, char c) {

@@ -61,9 +61,9 @@ void ReadUnits(JsonValue& in) {
 }
 
 /// Reads the whole of one file into an empty model.
-class Reader {
+class ModelReader {
  public:
-  explicit Reader(CZelData& model) : m_model(model) {}
+  explicit ModelReader(CZelData& model) : m_model(model) {}
 
   void Read(JsonRoot& root);
 
@@ -117,16 +117,16 @@ class Reader {
 template <auto const& Rows, auto Read>
 constexpr auto MakeRowReaders() {
   return []<std::size_t... I>(std::index_sequence<I...>) {
-    return std::array{KeyReader<Reader>{
+    return std::array{KeyReader<ModelReader>{
         std::get<I>(Rows).stem, false,
-        [](JsonValue& in, Reader& reader) { Read(reader, in, std::get<I>(Rows)); }}...};
+        [](JsonValue& in, ModelReader& reader) { Read(reader, in, std::get<I>(Rows)); }}...};
   }
   (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(Rows)>>>());
 }
 
 template <class... Arrays>
 constexpr auto Joined(Arrays const&... arrays) {
-  std::array<KeyReader<Reader>, (std::tuple_size_v<Arrays> + ...)> all{};
+  std::array<KeyReader<ModelReader>, (std::tuple_size_v<Arrays> + ...)> all{};
   auto next = all.begin();
   ((next = std::copy(arrays.begin(), arrays.end(), next)), ...);
   return all;
@@ -134,24 +134,24 @@ constexpr auto Joined(Arrays const&... arrays) {
 
 constexpr auto MakeHeaderReaders() {
   using enum ModelFormat::Key;
-  std::array<KeyReader<Reader>, ModelFormat::kHeader.size()> readers{};
+  std::array<KeyReader<ModelReader>, ModelFormat::kHeader.size()> readers{};
   for (std::size_t i = 0; i < readers.size(); ++i)
     readers[i] = {ModelFormat::kHeader[i].name, ModelFormat::kHeader[i].required, nullptr};
-  auto constexpr anyText = [](JsonValue& in, Reader&) { in.String(); };
+  auto constexpr anyText = [](JsonValue& in, ModelReader&) { in.String(); };
   readers[kSchema].read = anyText;
-  readers[kFormat].read = [](JsonValue& in, Reader&) { ExpectText(in, ModelFormat::kName); };
-  readers[kVersionKey].read = [](JsonValue& in, Reader&) { ReadVersion(in); };
+  readers[kFormat].read = [](JsonValue& in, ModelReader&) { ExpectText(in, ModelFormat::kName); };
+  readers[kVersionKey].read = [](JsonValue& in, ModelReader&) { ReadVersion(in); };
   readers[kGeneratorKey].read = anyText;
-  readers[kUnitsKey].read = [](JsonValue& in, Reader&) { ReadUnits(in); };
+  readers[kUnitsKey].read = [](JsonValue& in, ModelReader&) { ReadUnits(in); };
   return readers;
 }
 
-void Reader::Read(JsonRoot& root) {
+void ModelReader::Read(JsonRoot& root) {
   static constexpr auto kReaders = Joined(
       MakeHeaderReaders(),
-      MakeRowReaders<Registry::kOneOffs, [](Reader& reader, JsonValue& in,
+      MakeRowReaders<Registry::kOneOffs, [](ModelReader& reader, JsonValue& in,
                                             auto const& row) { reader.ReadOneOff(in, row); }>(),
-      MakeRowReaders<Registry::kTables, [](Reader& reader, JsonValue& in, auto const& row) {
+      MakeRowReaders<Registry::kTables, [](ModelReader& reader, JsonValue& in, auto const& row) {
         reader.ReadTable(in, row);
       }>());
   ReadObject(root, kReaders, *this);
@@ -185,7 +185,7 @@ void ReadPadded(std::string_view text, std::string const& file, CZelData& model)
     CZelData fresh;
     fresh.rebuildHold = true;  // what is attached to nodes is built once, at the first query
     JsonRoot root(text);
-    Reader(fresh).Read(root);
+    ModelReader(fresh).Read(root);
     model = fresh;
   } catch (JsonWalkFault const& fault) {
     throw Explained(fault, text, file);

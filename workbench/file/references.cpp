@@ -75,10 +75,12 @@ void ForEachItem(List const& list, Emitter& emitter, VisitItem&& visit) {
 }
 
 template <class Value, class Item>
-concept ListOf = std::ranges::range<Value> && std::same_as<std::ranges::range_value_t<Value>, Item>;
+concept RangeOf =
+    std::ranges::range<Value> && std::same_as<std::ranges::range_value_t<Value>, Item>;
 
 template <class Value>
-concept ListOfDescribed = std::ranges::range<Value> && Described<std::ranges::range_value_t<Value>>;
+concept RangeOfDescribed =
+    std::ranges::range<Value> && Described<std::ranges::range_value_t<Value>>;
 
 template <class Record>
 std::vector<ReferenceField<Record>> const& ReferenceFields();
@@ -97,12 +99,12 @@ void AddReferenceFields(std::vector<ReferenceField<Record>>& fields, Row const& 
     add(name, [row](int value, Record const& record, Emitter& emitter) {
       emitter.Emit(value, row.target(record));
     });
-  } else if constexpr (ListOf<Value, int>) {
+  } else if constexpr (RangeOf<Value, int>) {
     if (row.target == nullptr) return;
     add(name, [row](Value const& list, Record const& record, Emitter& emitter) {
       ForEachItem(list, emitter, [&](int value) { emitter.Emit(value, row.target(record)); });
     });
-  } else if constexpr (ListOfDescribed<Value>) {
+  } else if constexpr (RangeOfDescribed<Value>) {
     for (auto const& inner : ReferenceFields<std::ranges::range_value_t<Value>>())
       add(name + "." + inner.name, [&inner](Value const& list, Record const&, Emitter& emitter) {
         ForEachItem(list, emitter, [&](auto const& item) { inner.visit(item, emitter); });
