@@ -1,7 +1,8 @@
-// Reversing and spinning one entity.
+// Reversing and spinning one element or load panel.
 #include <algorithm>
 
 #include "frame/flip_rows.h"
+#include "frame/negated.h"
 #include "store/model/zel_data.h"
 #include "tarvex/orientation.h"
 
@@ -9,9 +10,6 @@ namespace Tarvex {
 namespace {
 
 using Data::CElement;
-
-/// Change of sign that gives no negative zero, which a file would show.
-double Negated(double value) { return value == 0 ? value : -value; }
 
 /// Exchanges two topology positions of an element together with all that belongs to them. Every
 /// call negates the Z offset of a 2D element.
@@ -98,6 +96,7 @@ bool FlipLoadPanel(CZelData& model, int n) {
 }
 
 bool FlipEntity(CZelData& model, SEntRef ref) {
+  if (ref.type == SelMember) return FlipMember(model, ref.num);
   if (ref.type != SelElement) return false;
   return model.LoadPanelExist(ref.num) ? FlipLoadPanel(model, ref.num)
                                        : FlipElement(model, ref.num);

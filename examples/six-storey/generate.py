@@ -3,8 +3,9 @@
     python3 generate.py > six-storey.json
     python3 generate.py --check six-storey.json
 
-Elements are made with their corner points as topology. Points become node
-numbers at the very end, so whatever meets at a point shares its node.
+Elements are made with their corner points as topology, members with points
+and words. Points become node numbers at the very end, so whatever meets at a
+point shares its node. Each element is the mesh of one member.
 """
 
 import json
@@ -19,6 +20,10 @@ TOWER_HEIGHTS = [4] + 5 * [3]       # m, published
 LENGTH = 30                         # m, plan length of tower and basement, published
 BASEMENT_Y = (0, 21)                # m, width 21 published
 TOWER_Y = (3.5, 17.5)               # m, width 14 published, place over the basement chosen
+
+# Kinds of members and what 2D ones become, by their numbers in model files.
+T_BEAM, T_COLUMN, T_SLAB, T_WALL, T_SOLID = 1, 2, 4, 5, 13
+QUADRATIC, LOAD_PANELS = 1, 3
 
 # Chosen: everything below.
 BASEMENT_HEIGHT = 3                 # m
@@ -89,20 +94,50 @@ def element(kind, group, prop, points, **more):
     return {"type": kind, "group": group, "property": prop, "topology": points, **more}
 
 
+def member(kind, topology, children, **more):
+    """A member with its group and property from its elements; points of its topology stand between words."""
+    first = children[0]
+    made = {"type": kind, "group": first["group"], "property": first["property"], "topology": topology, **more}
+    return made | {"elements": children}
+
+
+def line_member(kind, elements):
+    """A straight member of elements that follow each other; each knows which part of it it is."""
+    ends = [e["topology"] for e in elements]
+    start, end = ends[0][0], ends[-1][1]
+    whole = distance(start, end)
+    for e, (a, b) in zip(elements, ends):
+        e["longPosition"] = [clean(distance(start, a) / whole), clean(distance(start, b) / whole)]
+    more = {"offset": elements[0]["offset"]} if "offset" in elements[0] else {}
+    releases = [elements[0].get("connect", [None, None])[0], elements[-1].get("connect", [None, None])[1]]
+    if any(releases):
+        more["endRelease"] = [r or {} for r in releases]
+    return member(kind, [start, end], elements, **more)
+
+
+def distance(a, b):
+    return sum((q - p) ** 2 for p, q in zip(a, b)) ** 0.5
+
+
 def columns():
-    made = []
+    """Elements and members of the columns, a member a storey, and of the posts."""
+    made, members = [], []
     for x in COLUMN_X:
         for y in COLUMN_Y:
             if x in CORE_X and y in CORE_Y:
                 continue    # the corners of the core walls carry there
             for storey in range(ROOF):
-                for low, high in pairwise(heights_of(storey)):
-                    made.append(element(2, COLUMN + storey + 1, P_COLUMN, [point(x, y, low), point(x, y, high)]))
+                group = COLUMN + storey + 1
+                parts = [element(2, group, P_COLUMN, [point(x, y, low), point(x, y, high)])
+                         for low, high in pairwise(heights_of(storey))]
+                made += parts
+                members.append(line_member(T_COLUMN, parts))
     top = LEVELS[ROOF]
     for x in CORE_X:
         for y in CORE_Y:
             made.append(element(2, CANOPY, P_POST, [point(x, y, top), point(x, y, top + CANOPY_HEIGHT)]))
-    return made
+            members.append(line_member(T_COLUMN, made[-1:]))
+    return made, members
 
 
 def on_line(along, line, lines):
@@ -110,23 +145,49 @@ def on_line(along, line, lines):
 
 
 def walls():
-    made = []
+    """Elements and members of the walls, a member a storey with its openings."""
+    made, members = [], []
     for wall in WALLS:
         mesh = within(MESH_X if wall.along == "x" else MESH_Y, wall.start, wall.end)
         for storey in range(wall.bottom, wall.top):
             prop = P_BASEMENT_WALL if wall.top == BASEMENTS else P_WALL
+            parts = []
             for low, high in pairwise(heights_of(storey)):
                 for a, b in pairwise(mesh):
                     if not is_open(wall, storey, a, low - LEVELS[storey]):
-                        pa, pb = on_line(wall.along, wall.line, (a, b))
-                        ring = [point(*pa, low), point(*pb, low), point(*pb, high), point(*pa, high)]
-                        made.append(element(5, WALL + storey + 1, prop, ring))
-    return made
+                        parts.append(element(5, WALL + storey + 1, prop, wall_ring(wall, a, b, low, high)))
+            made += parts
+            members.append(member(T_WALL, wall_outline(wall, storey), parts))
+    return made, members
+
+
+def wall_ring(wall, a, b, low, high):
+    pa, pb = on_line(wall.along, wall.line, (a, b))
+    return [point(*pa, low), point(*pb, low), point(*pb, high), point(*pa, high)]
+
+
+def openings_of(wall, storey):
+    return [o[:4] for o in wall.openings if o[4] <= storey < o[5]]
+
+
+def wall_outline(wall, storey):
+    """The ring of a wall in a storey: doors are cut out of its foot, windows are holes."""
+    floor = LEVELS[storey]
+    foot = []
+    holes = []
+    for start, end, sill, head in openings_of(wall, storey):
+        ring = wall_ring(wall, start, end, floor + sill, floor + head)
+        if sill == 0:
+            foot += [ring[0], ring[3], ring[2], ring[1]]
+        else:
+            holes += ["hole(", *ring, ")"]
+    ring = wall_ring(wall, wall.start, wall.end, floor, LEVELS[storey + 1])
+    return ring[:1] + foot + ring[1:] + holes
 
 
 def is_open(wall, storey, along, above_floor):
-    return any(start <= along < end and sill <= round(above_floor, 6) < head and first <= storey < last
-               for start, end, sill, head, first, last in wall.openings)
+    return any(start <= along < end and sill <= round(above_floor, 6) < head
+               for start, end, sill, head in openings_of(wall, storey))
 
 
 def flush(depth, slab, drop):
@@ -156,25 +217,41 @@ def edge_side(a, b):
     return 0
 
 
+def bays(elements):
+    """Beams that follow each other on a line between two crossings of column lines."""
+    run = []
+    for e in elements:
+        a, b = e["topology"]
+        if run and (run[-1]["topology"][1] != a or (a[0] in COLUMN_X and a[1] in (*COLUMN_Y, *BASEMENT_Y))):
+            yield run
+            run = []
+        run.append(e)
+    if run:
+        yield run
+
+
 def beams(wall_elements):
-    """Beams on the column lines, but not where a wall carries the slab."""
+    """Beams on the column lines, but not where a wall carries the slab, and their members, one a bay."""
     carried = {frozenset(e) for w in wall_elements for e in pairwise(w["topology"] + w["topology"][:1])}
-    made = []
+    made, members = [], []
     for level in range(1, ROOF + 1):
         side = BASEMENT_Y if level <= TOWER_BASE else TOWER_Y
         bearing = {(x, y) for x in COLUMN_X for y in BASEMENT_Y}    # on top of the outer basement wall
         lines = [on_line("x", y, MESH_X) for y in COLUMN_Y]
         lines += [on_line("y", x, within(MESH_Y, *side)) for x in COLUMN_X]
         for line in lines:
-            for a, b in pairwise(line):
-                if frozenset((point(*a, LEVELS[level]), point(*b, LEVELS[level]))) not in carried:
-                    made.append(beam(level, P_BEAM, BEAM_DEPTH, a, b, bearing))
+            parts = [beam(level, P_BEAM, BEAM_DEPTH, a, b, bearing) for a, b in pairwise(line)
+                     if frozenset((point(*a, LEVELS[level]), point(*b, LEVELS[level]))) not in carried]
+            made += parts
+            members += [line_member(T_BEAM, bay) for bay in bays(parts)]
         if level < ROOF:
             trimmers = [on_line("y", 14, within(MESH_Y, *CORE_Y)), on_line("x", 11, within(MESH_X, 14, 18))]
             for line in trimmers:
-                for a, b in pairwise(line):
-                    made.append(beam(level, P_TRIMMER, TRIMMER_DEPTH, a, b, {line[0], line[-1]}))
-    return made
+                ends = {line[0], line[-1]}
+                parts = [beam(level, P_TRIMMER, TRIMMER_DEPTH, a, b, ends) for a, b in pairwise(line)]
+                made += parts
+                members.append(line_member(T_BEAM, parts))
+    return made, members
 
 
 def first_along_x(ring):
@@ -196,19 +273,39 @@ def cells(xs, ys, z, special):
                 yield first_along_x([p for i, p in enumerate(ring) if i != cut])
 
 
+def rectangle(xs, ys, z):
+    return [point(xs[0], ys[0], z), point(xs[-1], ys[0], z), point(xs[-1], ys[-1], z), point(xs[0], ys[-1], z)]
+
+
 def slabs():
-    made = []
+    """Elements and members of the floors: one a level, and at ground one more on each side of the tower."""
+    made, members = [], []
     for level in range(1, ROOF + 1):
         side = BASEMENT_Y if level <= TOWER_BASE else TOWER_Y
         shafts = SHAFTS if level < ROOF else {}
+        strips = [side] if level != TOWER_BASE else [(side[0], TOWER_Y[0]), TOWER_Y, (TOWER_Y[1], side[1])]
+        parts = {strip: [] for strip in strips}
         for ring in cells(MESH_X, within(MESH_Y, *side), LEVELS[level], shafts):
             middle = sum(p[1] for p in ring) / len(ring)
+            strip = next(s for s in strips if s[0] < middle < s[1])
             kind = {4: 5, 3: 7}[len(ring)]
-            if level == TOWER_BASE and not TOWER_Y[0] < middle < TOWER_Y[1]:
+            if level == TOWER_BASE and strip != TOWER_Y:
                 made.append(element(kind, FLOOR + level, P_PODIUM, ring, offset={"z": PODIUM_DROP}))
             else:
                 made.append(element(kind, FLOOR + level, P_SLAB, ring))
-    return made
+            parts[strip].append(made[-1])
+        for strip, elements in parts.items():
+            z = LEVELS[level]
+            holes = shaft_holes(z) if shafts and strip[0] <= CORE_Y[0] < strip[1] else []
+            more = {"offset": elements[0]["offset"]} if "offset" in elements[0] else {}
+            members.append(member(T_SLAB, rectangle(COLUMN_X, strip, z) + holes, elements, **more))
+    return made, members
+
+
+def shaft_holes(z):
+    """Rings round what SHAFTS leaves out: the stair with its two cut corners, and the lift."""
+    stair = [point(12, 8.5, z), point(14, 10, z), point(14, 11, z), point(12, 12.5, z)]
+    return ["hole(", *stair, ")", "hole(", *rectangle((16, 18), (11, 12.5), z), ")"]
 
 
 def canopy():
@@ -220,7 +317,10 @@ def canopy():
         sides = pairwise(ring + ring[:1])
         middles = [point(*((p + q) / 2 for p, q in zip(a, b))) for a, b in sides]
         made.append(element({4: 6, 3: 8}[len(ring)], CANOPY, P_CANOPY, ring + middles))
-    return made
+    z = LEVELS[ROOF] + CANOPY_HEIGHT
+    outline = [point(x, y, z) for x, y in [(xs[1], ys[0]), (xs[-2], ys[0]), (xs[-1], ys[1]), (xs[-1], ys[-2]),
+                                           (xs[-2], ys[-1]), (xs[1], ys[-1]), (xs[0], ys[-2]), (xs[0], ys[1])]]
+    return made, [member(T_SLAB, outline, made, analysisOrder=QUADRATIC)]
 
 
 def raft():
@@ -228,7 +328,11 @@ def raft():
     for ring in cells(MESH_X, MESH_Y, LEVELS[0], {}):
         below = [point(x, y, z - RAFT_DEPTH) for x, y, z in ring]
         made.append(element(12, RAFT, P_RAFT, below + ring))
-    return made
+    foot = rectangle(MESH_X, MESH_Y, LEVELS[0] - RAFT_DEPTH)
+    top = rectangle(MESH_X, MESH_Y, LEVELS[0])
+    sides = [p for pair in zip(foot + foot[:1], top + top[:1]) for p in pair]
+    strips = sides + [";", foot[0], foot[3], foot[1], foot[2], ";", top[0], top[1], top[3], top[2]]
+    return made, [member(T_SOLID, strips, made)]
 
 
 def facade():
@@ -250,12 +354,14 @@ def facade():
                 ring += [point(*p, zs[-1]) for p in plan[-2::-1]] + [point(*plan[0], z) for z in zs[-2:0:-1]]
                 made.append({"name": f"{name} bay {bay} storey {storey - TOWER_BASE + 1}",
                              "group": FACADE + storey + 1, "property": P_FACADE, "topology": ring})
-    return made
+    panels = [member(T_WALL, p["topology"], [p], name=p["name"], analysisOrder=LOAD_PANELS) for p in made]
+    return made, panels
 
 
 def turned_beam(e):
     """The same beam from the other end: local y points the other way, local z still up."""
     e["topology"].reverse()
+    e["longPosition"].reverse()
     if "y" in e["offset"]:
         e["offset"]["y"] = -e["offset"]["y"]
     if "connect" in e:
@@ -311,10 +417,35 @@ def saved_lists(number):
     return [{"n": n} | record for n, record in enumerate(lists, 1)]
 
 
+def storeys():
+    """A grid plane a floor level, from the upper basement floor to the roof."""
+    names = {TOWER_BASE - 1: "Basement", TOWER_BASE: "Ground", ROOF: "Roof"}
+    return [{"n": i, "name": names.get(i, f"Floor {i - TOWER_BASE}"), "elevation": clean(LEVELS[i]), "storey": True}
+            for i in range(1, ROOF + 1)]
+
+
+def member_records(members, number, element_number):
+    """Members as a file has them, numbered in their order; their elements learn whose they are."""
+    records = []
+    for n, made in enumerate(members, 1):
+        children = made.pop("elements")
+        for e in children:
+            e["parentMember"] = {"member": n}
+        made["topology"] = " ".join(str(number.get(item, item)) for item in made["topology"])
+        fields = {k: v for k, v in made.items() if (k, v) != ("property", 1)}
+        numbers = [element_number[id(e)] for e in children]
+        records.append({"n": n} | fields | {"children": [{"replica": 0, "elements": numbers}]})
+    return records
+
+
 def model():
-    wall_elements = walls()
-    blocks = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs() + canopy(),
-              "walls": wall_elements, "raft": raft(), "facade": facade()}
+    wall_elements, wall_members = walls()
+    canopy_elements, canopy_members = canopy()
+    made = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs(), "walls": (wall_elements, wall_members),
+            "raft": raft(), "facade": facade()}
+    blocks = {name: elements for name, (elements, _) in made.items()}
+    members = [m for _, block in made.values() for m in block] + canopy_members
+    blocks["slabs"] += canopy_elements
     disturb(blocks["beams"], 5, turned_beam)
     disturb(blocks["slabs"], 5, turned_face)
     disturb(blocks["slabs"], 7, started_later)
@@ -324,15 +455,17 @@ def model():
     base = clean(LEVELS[0] - RAFT_DEPTH)
     nodes = [{"n": n, "position": p} | ({"restraint": ["X", "Y", "Z"]} if p[2] == base else {})
              for p, n in number.items()]
+    element_number = {id(e): n for name, block in blocks.items() for n, e in enumerate(block, FIRST[name])}
+    member_table = member_records(members, number, element_number)
     elements = []
-    for name, block in blocks.items():
-        for n, e in enumerate(block, FIRST[name]):
-            fields = {k: v for k, v in e.items() if (k, v) != ("property", 1)}
-            elements.append({"n": n} | fields | {"topology": [number[p] for p in e["topology"]]})
+    for block in blocks.values():
+        for e in block:
+            fields = {k: v for k, v in e.items() if (k, v) not in (("property", 1), ("longPosition", [0, 1]))}
+            elements.append({"n": element_number[id(e)]} | fields | {"topology": [number[p] for p in e["topology"]]})
     panels = [e for e in elements if "type" not in e]
     axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}
-    return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Axis": [axis],
-            "List": saved_lists(number)}
+    return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Member": member_table,
+            "Axis": [axis], "GridPlane": storeys(), "List": saved_lists(number)}
 
 
 def text():

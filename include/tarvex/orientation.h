@@ -1,5 +1,5 @@
-// Orientation of elements and load panels: which way they run, where their edges start, and to
-// which side their normals point.
+// Orientation of elements, load panels and members: which way they run, where their edges start,
+// and to which side their normals point.
 //
 //   Tarvex::CAlignElem1D tool(model);
 //   tool.SetSet(elements);   // Util::CSet of kind SelElement
@@ -21,7 +21,7 @@ namespace Tarvex {
 
 class CZelData;
 
-/// Reverses one element or load panel, by FlipElement or FlipLoadPanel.
+/// Reverses one element, load panel or member, by FlipElement, FlipLoadPanel or FlipMember.
 /// @return false when there is none of that number or kind, or when it can't be reversed.
 TARVEX_EXPORT bool FlipEntity(CZelData& model, SEntRef ref);
 
@@ -34,6 +34,13 @@ TARVEX_EXPORT bool FlipElement(CZelData& model, int element);
 /// Reverses a load panel; the edge between its first two nodes stays its first edge.
 /// @return false for a missing number.
 TARVEX_EXPORT bool FlipLoadPanel(CZelData& model, int panel);
+
+/// Reverses a 1D member: its topology (words of arcs stay where they belong), restraints and
+/// releases change ends, the axial and automatic offsets too; the offset in z of a vertical member
+/// and the one in y of any other changes its sign. Its elements are left as they are.
+/// @return false, with no change, for a missing number, for a member that is not 1D and for a
+/// topology that can't be reversed.
+TARVEX_EXPORT bool FlipMember(CZelData& model, int member);
 
 /// Turns the topology of a 2D element or load panel so that position `steps` becomes position 0.
 /// A step exchanges one pair of positions fewer than there are edges, and each exchange negates the

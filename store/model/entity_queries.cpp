@@ -1,171 +1,170 @@
 #include "store/model/entity_queries.h"
 
-#include <array>
-#include <optional>
-
-#include "store/model/model_core.h"
+#include "store/geometry/surface_area.h"
+#include "store/model/entity_geometry.h"
+#include "store/model/member_topology.h"
 #include "store/numeric/element_frame.h"
 
 namespace Tarvex {
-namespace {
 
+namespace Geometry = EntityGeometry;
 using Data::CElement;
 using Util::CDirCos;
 
-/// Topology of the element, panel or node of a reference; empty when it does not exist.
-std::span<int const> TopologyOf(ModelState const& state, SEntRef const& ref) {
-  if (ref.type == SelElement) {
-    if (auto const* element = state.elem.Find(ref.num)) return element->Topology();
-    if (auto const* panel = state.panel.Find(ref.num)) return panel->Topology();
-  }
-  if (ref.type == SelNode && state.node.Exist(ref.num)) return {&ref.num, 1};
-  return {};
+CDirCos EntityQueries::EntDC(SEntRef ref, Vec3<double> const& shift0,
+                             Vec3<double> const& shift1) const {
+  return Geometry::Frame(m_core.state, ref, {shift0, shift1});
 }
-
-std::optional<Vec3<double>> Position(ModelState const& state, int node) {
-  auto const* record = state.node.Find(node);
-  return record == nullptr ? std::nullopt : std::optional(record->Position());
-}
-
-/// Positions of nodes, empty when one of them does not exist; up to eight cost no allocation.
-class Points : public boost::container::small_vector<Vec3<double>, 8> {
- public:
-  Points(ModelState const& state, std::span<int const> nodes) {
-    for (int const node : nodes) {
-      auto const p = Position(state, node);
-      if (!p) {
-        clear();
-        return;
-      }
-      push_back(*p);
-    }
-  }
-  Points(Points const&) = delete;
-  Points& operator=(Points const&) = delete;
-
-  operator std::span<Vec3<double> const>() const { return {data(), size()}; }  // NOLINT: a view
-};
-
-/// The corners of an element or panel; all nodes where the shape does not tell.
-std::span<int const> Corners(std::span<int const> nodes, CElement const* element) {
-  if (element == nullptr || element->Shape().dimension == 0) return nodes;
-  return nodes.first(std::min(nodes.size(), static_cast<std::size_t>(element->Shape().corners)));
-}
-
-Points CornerPoints(ModelState const& state, int n) {
-  auto const nodes = TopologyOf(state, {SelElement, n});
-  return Points(state, Corners(nodes, state.elem.Find(n)));
-}
-
-CDirCos LineFrameOf(ModelState const& state, CElement const& element) {
-  Points const ends(state, Corners(element.Topology(), &element));
-  if (ends.size() != 2) return {};
-  std::optional<Vec3<double>> orientation;
-  if (element.OrientationNode() != 0) orientation = Position(state, element.OrientationNode());
-  return Util::LineFrame(ends[0], ends[1], orientation, element.OrientationAngle(),
-                         state.spec.GenTol(TolType::Vertical));
-}
-
-CDirCos SolidFrameOf(ModelState const& state, CElement const& element, int face) {
-  if (face >= 0) return Util::PlateFrame(Points(state, element.FaceTopo(face)), 0);
-  auto const& nodes = element.Topology();
-  if (nodes.size() < static_cast<std::size_t>(element.Shape().corners)) return {};
-  // The near face is listed about its outward normal: its second entry is its last node.
-  int const last = element.Shape().faces[0][1];
-  Points const points(state, std::array{nodes[0], nodes[1], element.Topo(last)});
-  if (points.empty()) return {};
-  return {points[1] - points[0], points[2] - points[0]};
-}
-
-}  // namespace
 
 CDirCos EntityQueries::ElemDC(int n, EntAt, int face) const {
-  auto const& state = m_core.state;
-  if (auto const* panel = state.panel.Find(n))
-    return Util::PlateFrame(CornerPoints(state, n), panel->OrientationAngle());
-  auto const* element = state.elem.Find(n);
-  if (element == nullptr) return {};
-  if (element->Is1D()) return LineFrameOf(state, *element);
-  if (element->Is2D()) return Util::PlateFrame(CornerPoints(state, n), element->OrientationAngle());
-  return element->Is3D() ? SolidFrameOf(state, *element, face) : CDirCos();
+  auto const* element = m_core.state.elem.Find(n);
+  if (face < 0 || element == nullptr || !element->Is3D()) return EntDC({SelElement, n});
+  return Util::PlateFrame(Geometry::Points(m_core.state, element->FaceTopo(face)), 0);
+}
+
+CDirCos EntityQueries::MemberDC(int n, EntAt, Vec3<double> const& shift0,
+                                Vec3<double> const& shift1) const {
+  return EntDC({SelMember, n}, shift0, shift1);
 }
 
 Vec3<double> EntityQueries::Normal(int n, int, EntAt) const {
-  if (!EntIs2D({SelElement, n})) return {};
-  return Unit(Util::PolygonNormal(CornerPoints(m_core.state, n)));
+  SEntRef const ref{SelElement, n};
+  if (!EntIs2D(ref)) return {};
+  Geometry::Points const outline(m_core.state, Geometry::Outline(m_core.state, ref));
+  return Unit(Util::PolygonNormal(outline));
 }
 
-double EntityQueries::ElemLen(int n, EntAt at) const {
-  if (!EntIs1D({SelElement, n})) return 0;
-  auto const ends = CornerPoints(m_core.state, n);
-  if (ends.size() != 2) return 0;
-  double const length = Tarvex::Length(ends[1] - ends[0]);
-  if (at == EntAt::Nodes) return length;
-  auto const& offset = m_core.state.elem.Find(n)->Offset();
-  return std::abs(length - offset.X1() - offset.X2());
+double EntityQueries::EntLen(SEntRef ref, EntAt at) const {
+  double const length = Geometry::LengthAtNodes(m_core.state, ref);
+  auto const* offset = Geometry::Offset(m_core.state, ref);
+  if (length == 0 || at == EntAt::Nodes || offset == nullptr) return length;
+  return std::abs(length - offset->X1() - offset->X2());
 }
 
-Vec3<double> EntityQueries::Coor(int n, int place, EntAt at) const {
+double EntityQueries::ElemArea(int n) const {
+  SEntRef const ref{SelElement, n};
+  if (!EntIs2D(ref)) return 0;
+  Geometry::Topology const topology(m_core.state, ref);
+  Geometry::Points const points(m_core.state, topology.Nodes());
+  bool const shaped = m_core.state.elem.Exist(n);
+  return shaped ? Util::SurfaceArea(points) : Length(Util::PolygonNormal(points)) / 2;
+}
+
+Vec3<double> EntityQueries::EntCoor(SEntRef ref, int place, EntAt at, CElement::EntBy) const {
   auto const& state = m_core.state;
-  auto const p = Position(state, EntTopo({SelElement, n}, place));
+  auto const p = Geometry::Position(state, EntTopo(ref, place));
   if (!p) return {};
-  auto const* element = state.elem.Find(n);
-  bool const offsets = element != nullptr && (element->Is1D() || element->Is2D());
-  if (at == EntAt::Nodes || !offsets) return *p;
-  auto const& offset = element->Offset();
-  // The ends of a line are offset in three directions, a plate along its normal only.
-  auto const local =
-      element->Is1D() ? offset.Vector(place == 0 ? 0 : 1) : Vec3<double>{0, 0, offset.Z()};
-  return *p + ElemDC(n).LtoG(local);
-}
-
-bool EntityQueries::ElemIsVertical(int n, EntAt) const {
-  if (!EntIs1D({SelElement, n})) return false;
-  auto const ends = CornerPoints(m_core.state, n);
-  return ends.size() == 2 &&
-         IsVertical(ends[1] - ends[0], m_core.state.spec.GenTol(TolType::Vertical));
-}
-
-bool EntityQueries::ElemIsHorizontal(int n) const {
-  double const tolerance = m_core.state.spec.GenTol(TolType::Vertical);
-  if (EntIs2D({SelElement, n})) return IsVertical(Normal(n), tolerance);
-  if (!EntIs1D({SelElement, n})) return false;
-  auto const ends = CornerPoints(m_core.state, n);
-  return ends.size() == 2 && IsHorizontal(ends[1] - ends[0], tolerance);
-}
-
-int EntityQueries::EntNumTopo(SEntRef ref) const {
-  return static_cast<int>(TopologyOf(m_core.state, ref).size());
-}
-
-int EntityQueries::EntTopo(SEntRef ref, int place, CElement::EntBy) const {
-  auto const nodes = TopologyOf(m_core.state, ref);
-  auto const at = static_cast<std::size_t>(place);
-  return at < nodes.size() ? nodes[at] : 0;
-}
-
-bool EntityQueries::EntIs1D(SEntRef ref) const {
-  auto const* element = ref.type == SelElement ? m_core.state.elem.Find(ref.num) : nullptr;
-  return element != nullptr && element->Is1D();
-}
-
-bool EntityQueries::EntIs2D(SEntRef ref) const {
-  if (ref.type != SelElement) return false;
-  if (m_core.state.panel.Exist(ref.num)) return true;
-  auto const* element = m_core.state.elem.Find(ref.num);
-  return element != nullptr && element->Is2D();
+  auto const* offset = Geometry::Offset(state, ref);
+  if (at == EntAt::Nodes || offset == nullptr) return *p;
+  int const dimension = Geometry::Dimension(state, ref);
+  if (dimension == 2) return *p + EntOffset(ref, 0);
+  if (dimension != 1) return *p;
+  if (place == 0 || place == EntNumTopo(ref) - 1) return *p + EntOffset(ref, place == 0 ? 0 : 1);
+  return *p + EntDC(ref).LtoG({0, offset->Y(), offset->Z()});  // a node that a line passes
 }
 
 Vec3<double> EntityQueries::EntCentre(SEntRef ref) const {
   Vec3<double> sum;
   int count = 0;
-  for (int const node : TopologyOf(m_core.state, ref)) {
-    auto const p = Position(m_core.state, node);
+  for (int const node : Geometry::Topology(m_core.state, ref).Nodes()) {
+    auto const p = Geometry::Position(m_core.state, node);
     if (!p) continue;
     sum += *p;
     ++count;
   }
   return count == 0 ? sum : sum / static_cast<double>(count);
+}
+
+Util::CBox3D EntityQueries::EntExtents(SEntRef ref, EntAt at) const {
+  Util::CBox3D box;
+  for (int place = 0; place < EntNumTopo(ref); ++place)
+    if (m_core.state.node.Exist(EntTopo(ref, place))) box.AddPoint(EntCoor(ref, place, at));
+  return box;
+}
+
+bool EntityQueries::EntIsVertical(SEntRef ref) const {
+  auto const ends = Geometry::Ends(m_core.state, ref);
+  return ends && IsVertical((*ends)[1] - (*ends)[0], m_core.state.spec.GenTol(TolType::Vertical));
+}
+
+bool EntityQueries::ElemIsVertical(int n, EntAt) const { return EntIsVertical({SelElement, n}); }
+bool EntityQueries::MemberIsVertical(int n, EntAt) const { return EntIsVertical({SelMember, n}); }
+
+bool EntityQueries::IsLevel(SEntRef ref) const {
+  double const tolerance = m_core.state.spec.GenTol(TolType::Vertical);
+  if (EntIs2D(ref)) {
+    Geometry::Points const outline(m_core.state, Geometry::Outline(m_core.state, ref));
+    return IsVertical(Util::PolygonNormal(outline), tolerance);
+  }
+  auto const ends = Geometry::Ends(m_core.state, ref);
+  return ends && IsHorizontal((*ends)[1] - (*ends)[0], tolerance);
+}
+
+bool EntityQueries::ElemIsHorizontal(int n) const { return IsLevel({SelElement, n}); }
+bool EntityQueries::MemberIsHorizontal(int n) const { return IsLevel({SelMember, n}); }
+
+int EntityQueries::EntNumTopo(SEntRef ref) const {
+  return Geometry::Topology(m_core.state, ref).Count();
+}
+
+int EntityQueries::EntTopo(SEntRef ref, int place, CElement::EntBy) const {
+  return Geometry::Topology(m_core.state, ref).At(place);
+}
+
+bool EntityQueries::EntIs1D(SEntRef ref) const {
+  return Geometry::Dimension(m_core.state, ref) == 1;
+}
+
+bool EntityQueries::EntIs2D(SEntRef ref) const {
+  return Geometry::Dimension(m_core.state, ref) == 2;
+}
+
+bool EntityQueries::EntIsSection(SEntRef ref) const {
+  if (ref.type == SelElement) {
+    auto const* element = m_core.state.elem.Find(ref.num);
+    return element != nullptr && element->IsSection();
+  }
+  auto const* member = ref.type == SelMember ? m_core.state.member.Find(ref.num) : nullptr;
+  return member != nullptr && member->IsSection();
+}
+
+bool EntityQueries::EntIsOffset(SEntRef ref) const {
+  auto const* offset = Geometry::Offset(m_core.state, ref);
+  return offset != nullptr && offset->IsOffset();
+}
+
+Data::COffset EntityQueries::EntOffset(SEntRef ref) const {
+  auto const* offset = Geometry::Offset(m_core.state, ref);
+  return offset == nullptr ? Data::COffset() : *offset;
+}
+
+Vec3<double> EntityQueries::EntOffset(SEntRef ref, int end) const {
+  auto const* offset = Geometry::Offset(m_core.state, ref);
+  int const dimension = Geometry::Dimension(m_core.state, ref);
+  if (offset == nullptr || (dimension != 1 && dimension != 2)) return {};
+  // The ends of a line are offset in three directions, a plate along its normal only.
+  auto const local = dimension == 1 ? offset->Vector(end) : Vec3<double>{0, 0, offset->Z()};
+  return EntDC(ref).LtoG(local);
+}
+
+int EntityQueries::EntProperty(SEntRef ref, int) const {
+  auto const& state = m_core.state;
+  if (ref.type == SelElement) {
+    if (auto const* element = state.elem.Find(ref.num)) return element->Property();
+    if (auto const* panel = state.panel.Find(ref.num)) return panel->Property();
+  }
+  auto const* member = ref.type == SelMember ? state.member.Find(ref.num) : nullptr;
+  return member == nullptr ? 0 : member->Property();
+}
+
+int EntityQueries::ElemMember(int n) const {
+  if (auto const* element = m_core.state.elem.Find(n)) return element->ParentMember().member;
+  auto const* panel = m_core.state.panel.Find(n);
+  return panel == nullptr ? 0 : panel->ParentMember().member;
+}
+
+bool EntityQueries::IsMemberTopoValid(Data::CMember const& member) const {
+  return MemberTopology::IsValid(m_core.state, member);
 }
 
 }  // namespace Tarvex

@@ -33,21 +33,22 @@ void StoreEntity(ModelCore& core, PagedTable<Record>& table, PagedTable<Other>& 
   NodeUse::TopologyChanged(core, ElementRef(n), before, stored.Topology());
 }
 
+/// Takes an element or panel that goes off the lists of its members.
+void LeaveMembers(ModelCore& core, int n) {
+  auto& members = core.state.member;
+  if (members.empty()) return;
+  auto const owners = core.children.Of(members, n);
+  for (auto const& owner : owners) members.Edit(owner.member).RemoveChildElement(n);
+  if (!owners.empty()) core.children.Removed(n);
+}
+
 /// Removes records but for those that are locked.
 template <class Record>
 void BlankEntities(ModelCore& core, PagedTable<Record>& table, int first, int count) {
-  std::vector<int> locked;
-  TableOps::ForEachIn(table, first, count, [&](int n) {
-    auto const& record = *table.Find(n);
-    if (record.IsLocked()) return locked.push_back(n);
+  TableOps::RemoveUnlocked(table, first, count, [&](int n, Record const& record) {
     NodeUse::TopologyChanged(core, ElementRef(n), record.Topology(), {});
+    LeaveMembers(core, n);
   });
-  for (int const n : locked) {
-    table.Remove(first, n - first);
-    count -= n + 1 - first;
-    first = n + 1;
-  }
-  table.Remove(first, count);
 }
 
 /// Changes an element in place where its topology stays.

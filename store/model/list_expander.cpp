@@ -137,6 +137,7 @@ Intervals const& ExistingEntities(CZelData const& model, SelType kind, bool pane
     return cache.numbers;
   };
   if (kind == SelNode) return of(core.existingNodes, state.node);
+  if (kind == SelMember) return of(core.existingMembers, state.member);
   if (kind != SelElement) return kNone;
   return panels ? of(core.existingElementsAndPanels, state.elem, state.panel)
                 : of(core.existingElements, state.elem);

@@ -64,6 +64,10 @@ bool HasProperty(Record const& record, CModule::ModuleId module, int number) {
   return has;
 }
 
+Data::TopoVector const& NodesOf(Data::CElement const& element) { return element.Topology(); }
+Data::TopoVector const& NodesOf(Data::LoadPanel const& panel) { return panel.Topology(); }
+Data::TopoVector NodesOf(Data::CMember const& member) { return member.Topo().Nodes(); }
+
 /// A node's place in the co-ordinates that a word compares.
 class Place {
  public:
@@ -81,7 +85,7 @@ class Place {
   }
   template <class Entity>
   bool Has(Entity const& entity) const {
-    auto const& nodes = entity.Topology();
+    auto const& nodes = NodesOf(entity);
     return !nodes.empty() && std::all_of(nodes.begin(), nodes.end(), [&](int n) {
       auto const* node = m_state.node.Find(n);
       return node != nullptr && Has(*node);

@@ -15,6 +15,7 @@ void ForEachTableOf(ModelState const& state, SelType kind, Visit&& visit) {
     visit(state.elem);
     visit(state.panel);
   }
+  if (kind == SelMember) visit(state.member);
 }
 
 /// What the answer to a word depends on, beside which entities exist.

@@ -39,6 +39,7 @@ void ModelCore::Restore(ModelState other) {
       positions.reset();
     }
   }
+  if (other.member.Revision() != state.member.Revision()) children.Reset();
   state = std::move(other);
 }
 

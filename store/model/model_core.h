@@ -8,16 +8,26 @@
 #include <optional>
 #include <vector>
 
+#include "store/model/child_index.h"
 #include "store/model/list_cache.h"
 #include "store/model/zel_data.h"
 #include "store/numeric/box.h"
 #include "store/numeric/point_index.h"
+#include "store/record/alignment.h"
+#include "store/record/assembly.h"
 #include "store/record/axis.h"
+#include "store/record/block.h"
 #include "store/record/element.h"
 #include "store/record/ent_list.h"
+#include "store/record/grid_line.h"
+#include "store/record/grid_plane.h"
+#include "store/record/grid_surface.h"
 #include "store/record/load_panel.h"
+#include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/polyline.h"
 #include "store/record/spec.h"
+#include "store/record/views.h"
 #include "store/table/history.h"
 #include "store/table/paged_table.h"
 
@@ -28,8 +38,18 @@ struct ModelState {
   PagedTable<Data::CNode> node;
   PagedTable<Data::CElement> elem;
   PagedTable<Data::LoadPanel> panel;
+  PagedTable<Data::CMember> member;
   PagedTable<Data::CAxis> axis;
+  PagedTable<Data::CGridPlane> gridPlane;
+  PagedTable<Data::CGridSurface> gridSurface;
+  PagedTable<Data::CGridLine> gridLine;
+  PagedTable<Data::CPolyline> polyline;
+  PagedTable<Data::CAlignment> alignment;
   PagedTable<Data::CEntList> list;
+  PagedTable<Data::CBlock> block;
+  PagedTable<Data::CAssembly> assembly;
+  PagedTable<Data::CGrView> grView;
+  PagedTable<Data::COpView> opView;
   Data::CSpec spec;
   Data::CDefaults defaults;
 
@@ -52,6 +72,12 @@ class ModelCore {
     Util::CBox3D box;
   } extents;
 
+  /// The grid planes that are storeys, in the order of the storeys.
+  struct {
+    std::uint64_t revision = ~std::uint64_t{0};  ///< of the table of grid planes
+    std::vector<int> planes;
+  } storeys;
+
   /// The numbers in use in some tables, of the revisions that they were taken from.
   struct Existing {
     bool known = false;
@@ -61,10 +87,14 @@ class ModelCore {
   Existing existingNodes;
   Existing existingElements;
   Existing existingElementsAndPanels;
+  Existing existingMembers;
   ListCache lists;
 
   History<ModelState> history;
   std::vector<CModule::ModuleId> bulkModules;  ///< announced by AddBulkOperations
+
+  /// Which members list an element.
+  ChildIndex children;
 
   /// Where the nodes are; built by the first query and followed from then on.
   std::optional<Util::PointIndex> positions;

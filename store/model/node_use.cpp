@@ -81,22 +81,21 @@ class NodePlaces {
   std::vector<int> m_numbers;  // ascending; empty where dense
 };
 
-/// The attachments of all nodes as flat arrays: those of place i stand from first[i] to
+/// The entities of one kind at all nodes as flat arrays: those of place i stand from first[i] to
 /// first[i + 1].
 struct FlatUse {
-  NodePlaces places;
   std::vector<std::size_t> first;
   std::vector<int> entities;
 
-  std::span<int const> Of(int node) const {
-    auto const i = places.Of(node);
-    return {entities.data() + first[i], first[i + 1] - first[i]};
+  std::span<int const> Of(std::size_t place) const {
+    if (entities.empty()) return {};
+    return {entities.data() + first[place], first[place + 1] - first[place]};
   }
 };
 
-/// Calls visit(number, topology) for elements and load panels in ascending number.
+/// Calls visit(number, nodes) for elements and load panels in ascending number.
 template <class Visit>
-void ForEachTopology(ModelState const& state, Visit&& visit) {
+void ForEachElementTopology(ModelState const& state, Visit&& visit) {
   int e = state.elem.Next(0);
   int p = state.panel.Next(0);
   while (e != 0 || p != 0) {
@@ -110,43 +109,71 @@ void ForEachTopology(ModelState const& state, Visit&& visit) {
   }
 }
 
-FlatUse GatherElements(ModelState const& state) {
-  FlatUse use{NodePlaces(state.node), {}, {}};
-  auto const count = use.places.Count();
-  use.first.assign(count + 2, 0);
-  ForEachTopology(state, [&](int, Data::TopoVector const& nodes) {
-    for (int const node : nodes) ++use.first[use.places.Of(node) + 1];
+/// Calls visit(number, nodes) for the entities of a kind in ascending number.
+template <class Visit>
+void ForEachTopology(ModelState const& state, SelType kind, Visit&& visit) {
+  if (kind == SelElement) return ForEachElementTopology(state, visit);
+  for (auto const& [n, member] : state.member) visit(static_cast<int>(n), member.Topo().Nodes());
+}
+
+FlatUse Gather(ModelState const& state, NodePlaces const& places, SelType kind) {
+  FlatUse use;
+  use.first.assign(places.Count() + 2, 0);
+  ForEachTopology(state, kind, [&](int, Data::TopoVector const& nodes) {
+    for (int const node : nodes) ++use.first[places.Of(node) + 1];
   });
   for (std::size_t i = 1; i < use.first.size(); ++i) use.first[i] += use.first[i - 1];
   use.entities.resize(use.first.back());
   auto next = use.first;
-  ForEachTopology(state, [&](int number, Data::TopoVector const& nodes) {
-    for (int const node : nodes) use.entities[next[use.places.Of(node)]++] = number;
+  ForEachTopology(state, kind, [&](int number, Data::TopoVector const& nodes) {
+    for (int const node : nodes) use.entities[next[places.Of(node)]++] = number;
   });
   return use;
 }
 
-/// Gives a node its attachments if it has others; ascending, perhaps with repeats.
-void Assign(ModelState& state, int node, std::span<int const> elements) {
-  Use fresh;
-  fresh.elements.reserve(elements.size());
-  for (int const number : elements) fresh.elements.insert(fresh.elements.end(), number);
+using EntitySet = boost::container::flat_set<int>;
+
+/// A set of numbers that come ascending, perhaps with repeats.
+EntitySet SetOfAscending(std::span<int const> numbers) {
+  EntitySet set;
+  set.reserve(numbers.size());
+  for (int const number : numbers) set.insert(set.end(), number);
+  return set;
+}
+
+/// Gives a node its attachments if it has others.
+void Assign(ModelState& state, int node, Use&& fresh) {
   auto const& now = NodeUseAccess::Get(*state.node.Find(node));
-  bool const same = now == nullptr ? fresh.IsEmpty() : now->elements == fresh.elements;
+  bool const same = now == nullptr
+                        ? fresh.IsEmpty()
+                        : now->elements == fresh.elements && now->members == fresh.members;
   if (same) return;
   NodeUseAccess::Set(state.node.EditDerived(node),
                      fresh.IsEmpty() ? nullptr : new Use(std::move(fresh)));
 }
 
-void Build(ModelState& state) {
-  auto const use = GatherElements(state);
-  for (int n = state.node.Next(0); n != 0; n = state.node.Next(n)) Assign(state, n, use.Of(n));
-  state.waiting.reset();
-  ForEachTopology(state, [&](int number, Data::TopoVector const& nodes) {
+void AddWaiting(ModelState& state, SelType kind) {
+  ForEachTopology(state, kind, [&](int number, Data::TopoVector const& nodes) {
     for (int const node : nodes)
       if (node >= 1 && !state.node.Exist(node))
-        ChangeUse(state, node, [&](Use& waiting) { waiting.elements.insert(number); });
+        ChangeUse(state, node, [&](Use& waiting) { SetOf(waiting, kind).insert(number); });
   });
+}
+
+void Build(ModelState& state) {
+  NodePlaces const places(state.node);
+  auto const elements = Gather(state, places, SelElement);
+  auto const members = Gather(state, places, SelMember);
+  for (int n = state.node.Next(0); n != 0; n = state.node.Next(n)) {
+    auto const place = places.Of(n);
+    Use fresh;
+    fresh.elements = SetOfAscending(elements.Of(place));
+    fresh.members = SetOfAscending(members.Of(place));
+    Assign(state, n, std::move(fresh));
+  }
+  state.waiting.reset();
+  AddWaiting(state, SelElement);
+  AddWaiting(state, SelMember);
   state.useCurrent = true;
 }
 

@@ -11,9 +11,18 @@
 
 #include "store/export.h"
 #include "store/model/zel_data.h"
+#include "store/record/alignment.h"
+#include "store/record/assembly.h"
 #include "store/record/axis.h"
+#include "store/record/block.h"
 #include "store/record/ent_list.h"
+#include "store/record/grid_line.h"
+#include "store/record/grid_plane.h"
+#include "store/record/grid_surface.h"
+#include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/polyline.h"
+#include "store/record/views.h"
 
 namespace Tarvex {
 
@@ -74,12 +83,48 @@ inline constexpr std::tuple kTables{
                               &CZelData::LoadPanelExist, &CZelData::LoadPanel,
                               &CZelData::LoadPanels, &CZelData::HighestElem,
                               &CZelData::SetLoadPanel, &CZelData::BlankLoadPanel},
+    TableRow<Data::CMember>{CModule::Member, "Member", TableShape::Sparse, RemovalForm::Blank,
+                            &CZelData::MemberExist, &CZelData::Member, &CZelData::Member,
+                            &CZelData::HighestMember, &CZelData::SetMember, &CZelData::BlankMember},
     TableRow<Data::CAxis>{CModule::Axis, "Axis", TableShape::Sparse, RemovalForm::Blank,
                           &CZelData::AxisExist, &CZelData::Axis, &CZelData::Axis,
                           &CZelData::HighestAxis, &CZelData::SetAxis, &CZelData::BlankAxis},
+    TableRow<Data::CGridPlane>{CModule::GridPlane, "GridPlane", TableShape::Sparse,
+                               RemovalForm::Blank, &CZelData::GridPlaneExist, &CZelData::GridPlane,
+                               &CZelData::GridPlane, &CZelData::HighestGridPlane,
+                               &CZelData::SetGridPlane, &CZelData::BlankGridPlane},
+    TableRow<Data::CGridSurface>{
+        CModule::GridSurface, "GridSurface", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::GridSurfaceExist, &CZelData::GridSurface, &CZelData::GridSurface,
+        &CZelData::HighestGridSurface, &CZelData::SetGridSurface, &CZelData::BlankGridSurface},
+    TableRow<Data::CGridLine>{CModule::None, "GridLine", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::GridLineExist, &CZelData::GridLine, &CZelData::GridLine,
+                              &CZelData::HighestGridLine, &CZelData::SetGridLine,
+                              &CZelData::BlankGridLine},
+    TableRow<Data::CPolyline>{CModule::Polyline, "Polyline", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::PolylineExist, &CZelData::Polyline, &CZelData::Polyline,
+                              &CZelData::HighestPolyline, &CZelData::SetPolyline,
+                              &CZelData::BlankPolyline},
+    TableRow<Data::CAlignment>{CModule::None, "Alignment", TableShape::Sparse, RemovalForm::Blank,
+                               &CZelData::AlignmentExist, &CZelData::Alignment,
+                               &CZelData::Alignment, &CZelData::HighestAlignment,
+                               &CZelData::SetAlignment, &CZelData::BlankAlignment},
     TableRow<Data::CEntList>{CModule::None, "List", TableShape::Sparse, RemovalForm::Blank,
                              &CZelData::ListExist, &CZelData::List, &CZelData::List,
                              &CZelData::HighestList, &CZelData::SetList, &CZelData::BlankList},
+    TableRow<Data::CBlock>{CModule::None, "Block", TableShape::Sparse, RemovalForm::Blank,
+                           &CZelData::BlockExist, &CZelData::Block, &CZelData::Block,
+                           &CZelData::HighestBlock, &CZelData::SetBlock, &CZelData::BlankBlock},
+    TableRow<Data::CAssembly>{CModule::None, "Assembly", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::AssemblyExist, &CZelData::Assembly, &CZelData::Assembly,
+                              &CZelData::HighestAssembly, &CZelData::SetAssembly,
+                              &CZelData::BlankAssembly},
+    TableRow<Data::CGrView>{CModule::None, "GrView", TableShape::Sparse, RemovalForm::Blank,
+                            &CZelData::GrViewExist, &CZelData::GrView, &CZelData::GrView,
+                            &CZelData::HighestGrView, &CZelData::SetGrView, &CZelData::BlankGrView},
+    TableRow<Data::COpView>{CModule::None, "OpView", TableShape::Sparse, RemovalForm::Blank,
+                            &CZelData::OpViewExist, &CZelData::OpView, &CZelData::OpView,
+                            &CZelData::HighestOpView, &CZelData::SetOpView, &CZelData::BlankOpView},
 };
 
 }  // namespace Registry

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "store/model/query_types.h"
 #include "store/record/entity.h"
@@ -44,6 +45,26 @@ template <class Record, class Visit>
 void ForEachIn(PagedTable<Record> const& table, int first, int count, Visit&& visit) {
   auto const last = static_cast<long long>(first) + count - 1;
   for (int n = table.Next(std::max(first, 1) - 1); n != 0 && n <= last; n = table.Next(n)) visit(n);
+}
+
+/// Removes the records of first to first + count - 1 but for those that are locked, and calls
+/// gone(n, record) before each goes.
+template <class Record, class Gone>
+void RemoveUnlocked(PagedTable<Record>& table, int first, int count, Gone&& gone) {
+  std::vector<int> locked;
+  ForEachIn(table, first, count, [&](int n) {
+    auto const& record = *table.Find(n);
+    if (record.IsLocked())
+      locked.push_back(n);
+    else
+      gone(n, record);
+  });
+  for (int const n : locked) {
+    table.Remove(first, n - first);
+    count -= n + 1 - first;
+    first = n + 1;
+  }
+  table.Remove(first, count);
 }
 
 }  // namespace Tarvex::TableOps

@@ -7,6 +7,21 @@
 #include "store/model/registry.h"
 
 namespace Tarvex {
+namespace {
+
+/// Changes a stored member; throws for an entity of another kind.
+template <class Change>
+void ChangeMember(CZelData& model, SEntRef ref, char const* what, Change&& change) {
+  if (ref.type != SelMember)
+    throw std::out_of_range(std::string("no ") + what + " to set in a " +
+                            SelTypeLabel(ref.type).ToUtf8());
+  auto member = model.Member(ref.num);
+  change(member);
+  model.SetMember(ref.num, member);
+}
+
+}  // namespace
+
 ModelBase::ModelBase() : m_owned(std::make_unique<ModelCore>()) { m_owned->hold = &rebuildHold; }
 
 ModelBase::ModelBase(ModelBase const& other) : ModelBase() {
@@ -21,10 +36,22 @@ ModelBase& ModelBase::operator=(ModelBase const& other) {
 ModelBase::~ModelBase() = default;
 
 CZelData::CZelData()
-    : ModelBase(), EntityTables(*m_owned), GeometryTables(*m_owned), EntityQueries(*m_owned) {}
+    : ModelBase(),
+      EntityTables(*m_owned),
+      MemberTables(*m_owned),
+      GeometryTables(*m_owned),
+      GridTables(*m_owned),
+      EntityQueries(*m_owned),
+      GridQueries(*m_owned, *this) {}
 
 CZelData::CZelData(CZelData const& other)
-    : ModelBase(other), EntityTables(*m_owned), GeometryTables(*m_owned), EntityQueries(*m_owned) {}
+    : ModelBase(other),
+      EntityTables(*m_owned),
+      MemberTables(*m_owned),
+      GeometryTables(*m_owned),
+      GridTables(*m_owned),
+      EntityQueries(*m_owned),
+      GridQueries(*m_owned, *this) {}
 
 CZelData& CZelData::operator=(CZelData const& other) {
   ModelBase::operator=(other);
@@ -45,6 +72,7 @@ int CZelData::NumEnt(SelType kind, bool panels) const {
   std::size_t count = 0;
   if (kind == SelNode) count = state.node.size();
   if (kind == SelElement) count = state.elem.size() + (panels ? state.panel.size() : 0);
+  if (kind == SelMember) count = state.member.size();
   return static_cast<int>(count);
 }
 
@@ -54,9 +82,17 @@ bool CZelData::EntExist(SEntRef const& ref, bool panels) const {
 }
 
 void CZelData::SetEntTopo(SEntRef ref, int place, int node) {
-  if (ref.type != SelElement)
-    throw std::out_of_range("no topology to set in a " + SelTypeLabel(ref.type).ToUtf8());
-  SetElemTopo(ref.num, place, node);
+  if (ref.type == SelElement) return SetElemTopo(ref.num, place, node);
+  ChangeMember(*this, ref, "topology", [&](Data::CMember& member) {
+    auto topology = member.Topo();
+    topology.SetTopo(place, node);
+    member.SetTopo(topology);
+  });
+}
+
+void CZelData::SetEntOffset(SEntRef ref, Data::COffset const& offset) {
+  if (ref.type == SelElement) return SetElemOffset(ref.num, offset);
+  ChangeMember(*this, ref, "offset", [&](Data::CMember& member) { member.SetOffset(offset); });
 }
 
 bool CZelData::RecordExist(CModule::ModuleId module, int n) const {

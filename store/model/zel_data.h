@@ -8,6 +8,9 @@
 #include "store/model/entity_queries.h"
 #include "store/model/entity_tables.h"
 #include "store/model/geometry_tables.h"
+#include "store/model/grid_queries.h"
+#include "store/model/grid_tables.h"
+#include "store/model/member_tables.h"
 #include "store/numeric/box.h"
 #include "store/record/spec.h"
 #include "store/select/reference.h"
@@ -46,8 +49,11 @@ class TARVEX_STORE_EXPORT ModelBase {
 /// the size. One thread at a time uses a model; copies may be used by different threads.
 class TARVEX_STORE_EXPORT CZelData : public ModelBase,
                                      public EntityTables,
+                                     public MemberTables,
                                      public GeometryTables,
-                                     public EntityQueries {
+                                     public GridTables,
+                                     public EntityQueries,
+                                     public GridQueries {
  public:
   using EntAt = Tarvex::EntAt;
 
@@ -71,6 +77,8 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
   /// Changes one topology position of an entity; std::out_of_range when the entity or the position
   /// does not exist.
   void SetEntTopo(SEntRef ref, int place, int node);
+  /// Replaces the offset of an element or member; std::out_of_range for anything else.
+  void SetEntOffset(SEntRef ref, Data::COffset const& offset);
 
   // Access by table number. A module that no table has is empty.
   /// For 110 elements only; load panels are asked for with LoadPanelExist.

@@ -21,12 +21,18 @@ class TARVEX_STORE_EXPORT CAxis : public NamedEntity {
 
   AxisType Type() const { return m_type; }
   Vec3<double> const& Origin() const { return m_origin; }
+  void SetOrigin(Vec3<double> const& origin) { m_origin = origin; }
   /// Unit vectors in global components. Directions that span no plane give the global ones.
   Vec3<double> XAxis() const { return Frame().AxisVec(Direction::X); }
   Vec3<double> YAxis() const { return Frame().AxisVec(Direction::Y); }
   Vec3<double> ZAxis() const { return Frame().AxisVec(Direction::Z); }
   /// The frame of x, y and z.
   Util::CDirCos Frame() const { return {m_x, m_xy}; }
+  /// The frame of the axis's co-ordinates at a point in global axes, right-handed. Cartesian: as
+  /// Frame. Cylindrical: outwards from the z axis, tangential, z. Spherical: outwards from the
+  /// origin, tangential about the z axis, and the third at a right angle to both, towards positive
+  /// z. On the z axis the tangential direction is y, and at the origin the frame is as Frame.
+  Util::CDirCos DirCos(Vec3<double> const& point) const;
 
   friend bool operator==(CAxis const& a, CAxis const& b) { return Same(a, b); }
 

@@ -1,11 +1,10 @@
 // Selection lists: which entities of a kind a record or a user means.
 #pragma once
 
-#include <boost/make_shared.hpp>
-#include <boost/smart_ptr/atomic_shared_ptr.hpp>
 #include <utility>
 
 #include "store/record/entity.h"
+#include "store/record/kept_value.h"
 #include "store/select/bit_container.h"
 #include "store/select/list_text.h"
 #include "store/select/set.h"
@@ -23,23 +22,15 @@ class KeptExpansions {
     Pointer walked[2];  ///< without and with load panels
   };
 
-  KeptExpansions() = default;
-  KeptExpansions(KeptExpansions const& other) noexcept : m_all(other.m_all.load()) {}
-  KeptExpansions& operator=(KeptExpansions const& other) noexcept {
-    m_all.store(other.m_all.load());
-    return *this;
-  }
-  ~KeptExpansions() = default;
-
   All Get() const {
-    auto const all = m_all.load();
+    auto const all = m_all.Get();
     return all == nullptr ? All() : *all;
   }
-  void Set(All const& all) { m_all.store(boost::make_shared<All const>(all)); }
-  void Clear() { m_all.store(nullptr); }
+  void Set(All const& all) { m_all.Set(all); }
+  void Clear() { m_all.Clear(); }
 
  private:
-  boost::atomic_shared_ptr<All const> m_all;
+  KeptValue<All> m_all;
 };
 
 /// A selection list: a kind, and a definition in words (see docs/lists.md). What it selects depends
@@ -105,10 +96,20 @@ class TARVEX_STORE_EXPORT CEntList : public NamedEntity {
 
   friend bool operator==(CEntList const& a, CEntList const& b) { return Same(a, b); }
 
+ protected:
+  template <class Record>
+  static constexpr auto KindField() {
+    return Plain<Record>("kind", &CEntList::m_kind);
+  }
+  template <class Record>
+  static constexpr auto TextField() {
+    return Plain<Record>("text", &CEntList::m_text);
+  }
+
+ public:
   static constexpr auto Fields() {
     return std::tuple_cat(NamedFields<CEntList>(),
-                          std::make_tuple(Plain<CEntList>("kind", &CEntList::m_kind),
-                                          Plain<CEntList>("text", &CEntList::m_text)));
+                          std::make_tuple(KindField<CEntList>(), TextField<CEntList>()));
   }
 
  private:

@@ -4,12 +4,14 @@
 // rows. Equality, difference, model files, their schema and the integrity check are made from it.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <vector>
 
 #include "store/numeric/vec.h"
 #include "store/select/module_id.h"
@@ -80,6 +82,13 @@ bool Same(std::array<double, N> const& a, std::array<double, N> const& b) {
   for (std::size_t i = 0; i < N; ++i)
     if (!Same(a[i], b[i])) return false;
   return true;
+}
+template <class T>
+bool Same(T const& a, T const& b);
+template <class T>
+bool Same(std::vector<T> const& a, std::vector<T> const& b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](T const& x, T const& y) { return Same(x, y); });
 }
 template <class T>
 bool Same(T const& a, T const& b) {

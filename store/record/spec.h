@@ -65,15 +65,21 @@ class TARVEX_STORE_EXPORT CSpec {
   CUnit const& Unit() const { return m_unit; }
   void SetUnit(CUnit const& unit) { m_unit = unit; }
 
+  /// Number of the grid plane of the construction grid, 0 for none.
+  int ConsGridRef() const { return m_consGridRef; }
+  void SetConsGridRef(int plane) { m_consGridRef = plane; }
+
   friend bool operator==(CSpec const& a, CSpec const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<CSpec>("genTol", &CSpec::m_genTol),
-                           Plain<CSpec>("unit", &CSpec::m_unit));
+    return std::make_tuple(
+        Plain<CSpec>("genTol", &CSpec::m_genTol), Plain<CSpec>("unit", &CSpec::m_unit),
+        Reference<CSpec, CModule::GridPlane>("consGridRef", &CSpec::m_consGridRef));
   }
 
  private:
   GenTolerances m_genTol;
   CUnit m_unit;
+  int m_consGridRef = 0;
 };
 
 /// Names that new records get; '#' stands for the number.

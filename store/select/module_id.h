@@ -7,7 +7,8 @@ namespace Tarvex {
 /// change one.
 struct CModule {
   enum ModuleId : int {
-    None = -1,  ///< no table, or a table without a number of its own
+    None = -1,    ///< no table, or a table without a number of its own
+    Storey = -2,  ///< no table: storeys are numbered by the grid planes that are one
     Axis = 20,
     GridPlane = 23,
     GridSurface = 24,

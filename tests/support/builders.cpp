@@ -1,5 +1,9 @@
 #include "tests/support/builders.h"
 
+#include <stdexcept>
+
+#include "store/record/member.h"
+
 namespace Tarvex::Testing {
 namespace {
 
@@ -50,6 +54,14 @@ int QuadAt(CZelData& model, Vec3<double> const& a, Vec3<double> const& b, Vec3<d
 
 int PanelAt(CZelData& model, Points const& points) {
   return Add(model, Panel(NodesAt(model, points)));
+}
+
+int MemberAt(CZelData& model, MembType type, wchar_t const* topology) {
+  Data::CMember member(type, 1, 1);
+  if (!member.SetTopo(CString(topology))) throw std::invalid_argument("no topology");
+  int const n = model.HighestMember() + 1;
+  model.SetMember(n, member);
+  return n;
 }
 
 void Grid(CZelData& model, int columns, int rows) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "store/model/zel_data.h"
+#include "store/record/member_type.h"
 
 namespace Tarvex::Testing {
 
@@ -28,6 +29,9 @@ int QuadAt(CZelData& model, Vec3<double> const& a, Vec3<double> const& b, Vec3<d
            Vec3<double> const& d);
 /// Adds new nodes at the points and a load panel on them.
 int PanelAt(CZelData& model, Points const& points);
+
+/// Adds a member of a topology text and returns its number.
+int MemberAt(CZelData& model, MembType type, wchar_t const* topology);
 
 /// A plate of 4-noded quadrilaterals in the plane z = 0: columns by rows squares of unit size.
 /// Nodes and elements are numbered from 1 along x, then y; normals point upward.

@@ -94,21 +94,36 @@ Lines Differences(CZelData const& model, CZelData const& before) {
   return NoLines(lines, "references to nodes that do not exist");
 }
 
-::testing::AssertionResult AttachmentsFollowTopology(CZelData const& model) {
-  std::map<int, std::set<int>> expected;
-  for (auto const& [n, element] : model.Elem())
-    for (int const node : element.Topology()) expected[node].insert(static_cast<int>(n));
-  for (auto const& [n, panel] : model.LoadPanels())
-    for (int const node : panel.Topology()) expected[node].insert(static_cast<int>(n));
-  Lines lines;
+namespace {
+
+using EntitiesOfNode = std::map<int, std::set<int>>;
+
+void CompareAttached(CZelData const& model, SelType kind, EntitiesOfNode expected, Lines& lines) {
   for (auto const& [n, node] : model.Node()) {
     auto const& entities = expected[static_cast<int>(n)];
     std::vector<int> const should(entities.begin(), entities.end());
-    auto const& attached = node.AttachedEnt(SelElement);
+    auto const& attached = node.AttachedEnt(kind);
     std::vector<int> const is(attached.begin(), attached.end());
-    if (is != should || node.NumEntAttached(SelElement) != static_cast<int>(should.size()))
+    if (is != should || node.NumEntAttached(kind) != static_cast<int>(should.size()))
       lines.push_back("node " + std::to_string(n) + " has" + Text(is) + ", not" + Text(should));
   }
+}
+
+}  // namespace
+
+::testing::AssertionResult AttachmentsFollowTopology(CZelData const& model) {
+  EntitiesOfNode elements;
+  EntitiesOfNode members;
+  for (auto const& [n, element] : model.Elem())
+    for (int const node : element.Topology()) elements[node].insert(static_cast<int>(n));
+  for (auto const& [n, panel] : model.LoadPanels())
+    for (int const node : panel.Topology()) elements[node].insert(static_cast<int>(n));
+  for (auto const& [n, member] : model.Member())
+    for (int const item : member.Topo())
+      if (item > 0) members[item].insert(static_cast<int>(n));
+  Lines lines;
+  CompareAttached(model, SelElement, elements, lines);
+  CompareAttached(model, SelMember, members, lines);
   return NoLines(lines, "attachments that do not follow topology");
 }
 

@@ -9,13 +9,13 @@
 #include "store/record/ent_list.h"
 #include "store/record/node.h"
 #include "tests/support/plain_list.h"
+#include "tests/support/random_grids.h"
+#include "tests/support/random_members.h"
 
 namespace Tarvex::Testing {
 namespace {
 
 using Data::CElement;
-
-constexpr int kFieldShare = 30;  // per cent of records that have a given field changed
 
 std::vector<ElementType> const kLines{ElementType::Bar,    ElementType::Beam,   ElementType::Spring,
                                       ElementType::Link,   ElementType::Cable,  ElementType::Spacer,
@@ -49,8 +49,10 @@ class Maker {
     StoreAxes();
     StoreNodes();
     StoreEntities();
+    AddRandomMembers(m_model, m_random);
     StoreLists();
     StoreOneOffs();
+    AddRandomGrids(m_model, m_random);
     return m_model;
   }
 
@@ -179,21 +181,9 @@ class Maker {
 
   // Fields.
 
-  bool Changes() { return m_random.Percent(kFieldShare); }
-
-  CString AnyText() {
-    std::vector<CString> const texts{L"Stütze Süd",   L"梁 4", L"\U0001D6FC-Träger",
-                                     L"beam \"B\"\\", L"x",    L"Ebene +3,50"};
-    CString number;
-    number.Format(L" %i", m_random.Int(1, 99));
-    return m_random.Of(texts) + number;
-  }
-
-  void FillNamed(NamedEntity& record) {
-    if (Changes()) record.SetName(AnyText());
-    if (Changes()) record.SetSid(AnyText());
-    if (Changes()) record.SetColour(static_cast<unsigned long>(m_random.Int(1, 0xFFFFFF)));
-  }
+  bool Changes() { return Testing::Changes(m_random); }
+  CString AnyText() { return RandomText(m_random); }
+  void FillNamed(NamedEntity& record) { Testing::FillNamed(record, m_random); }
 
   /// What elements and panels have in common; nodes get their numbers.
   template <class Entity>

@@ -62,9 +62,13 @@ class Random {
 /// types without a shape, with one to nine nodes, repeats among them. One quadrilateral in fifty
 /// has two corners on the same node.
 ///
+/// Members: see random_members.h.
+///
 /// Lists: two to five saved lists of the kinds without one to cases, of up to eight items with
 /// ranges, operators, gaps, words and names. They refer to each other, to themselves and to lists
 /// that are none.
+///
+/// Grids, alignments, blocks, assemblies and views: one to four of each; see AddRandomGrids.
 ///
 /// Fields: about three in ten records have a given field changed. Texts hold characters of one to
 /// four UTF-8 bytes. All nodes that anything names exist, and so do the axes of nodes.

@@ -29,13 +29,17 @@ std::map<int, int> CountTypes(CZelData const& model) {
 
 void Info(CZelData& model, Arguments const&, CommandResult& result) {
   Json tables = Json::object();
-  std::string text = "table        records    highest\n";
+  constexpr std::size_t kStemWidth = 20;  // as wide as the longest stem
+  constexpr std::size_t kNumberWidth = 11;
+  std::string text = Padded("table", kStemWidth) + PaddedLeft("records", kNumberWidth) +
+                     PaddedLeft("highest", kNumberWidth) + "\n";
   ForEachTable([&](auto const& row) {
     auto const& table = (model.*row.all)();
     if (table.empty()) return;
     tables[std::string(row.stem)] = {{"count", table.size()}, {"highest", table.Highest()}};
-    text += Padded(std::string(row.stem), 9) + PaddedLeft(std::to_string(table.size()), 11) +
-            PaddedLeft(std::to_string(table.Highest()), 11) + "\n";
+    text += Padded(std::string(row.stem), kStemWidth) +
+            PaddedLeft(std::to_string(table.size()), kNumberWidth) +
+            PaddedLeft(std::to_string(table.Highest()), kNumberWidth) + "\n";
   });
   Json types = Json::object();
   for (auto const& [type, count] : CountTypes(model)) {

@@ -141,15 +141,34 @@ class Replacement {
   }
 
   void WriteTemporary(std::string_view contents) {
+    if (WriteUnnamed(contents)) return;
+    Descriptor file(::open(m_temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, Mode()));
+    Check(file.IsOpen());
+    Fill(file.Number(), contents);
+    Check(file.Close());
+  }
+
+  /// Writes a file without a name and gives it the temporary one once it is whole, so that a
+  /// process that is killed while it writes leaves nothing. @return false where the file system
+  /// can't.
+  bool WriteUnnamed(std::string_view contents) const {
+    Descriptor const file(::open(Folder().c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, Mode()));
+    if (!file.IsOpen()) return false;
+    Fill(file.Number(), contents);
+    auto const self = "/proc/self/fd/" + std::to_string(file.Number());
+    return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, m_temporary.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  }
+
+  mode_t Mode() const {
     constexpr mode_t kForAll = 0666;  // less what the process masks
     constexpr mode_t kForOwner = 0600;
-    Descriptor file(::open(m_temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                           m_old ? kForOwner : kForAll));
-    Check(file.IsOpen());
-    if (m_old) KeepMode(file.Number());
-    Check(WriteAll(file.Number(), contents));
-    Check(::fsync(file.Number()) == 0);
-    Check(file.Close());
+    return m_old ? kForOwner : kForAll;
+  }
+
+  void Fill(int descriptor, std::string_view contents) const {
+    if (m_old) KeepMode(descriptor);
+    Check(WriteAll(descriptor, contents));
+    Check(::fsync(descriptor) == 0);
   }
 
   void KeepMode(int descriptor) const {
@@ -171,9 +190,12 @@ class Replacement {
     Fail(backup, error);
   }
 
+  fs::path Folder() const {
+    return m_target.has_parent_path() ? m_target.parent_path() : fs::path(".");
+  }
+
   void SynchroniseFolder() const {
-    auto const folder = m_target.has_parent_path() ? m_target.parent_path() : fs::path(".");
-    Descriptor const open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    Descriptor const open(::open(Folder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // A folder that can't be read, or a file system without that operation, has nothing to add.
     if (!open.IsOpen() || ::fsync(open.Number()) == 0 || errno == EINVAL) return;
     Fail(m_target.string(), errno);

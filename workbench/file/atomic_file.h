@@ -2,9 +2,10 @@
 //
 // The text goes to a temporary file beside the target, which is synchronised and renamed over the
 // target; then the folder is synchronised. So a crash, a full disk or an interrupt leaves the old
-// file or the new one. Mode and, as far as allowed, owner of the old file are kept; of a symbolic
-// link what it points to is replaced. What is no regular file (a device, a pipe) is written in
-// place. One file is written at a time.
+// file or the new one. Where the file system can, the temporary file has no name until it is whole,
+// so that even a process that is killed while it writes leaves no other file. Mode and, as far as
+// allowed, owner of the old file are kept; of a symbolic link what it points to is replaced. What
+// is no regular file (a device, a pipe) is written in place. One file is written at a time.
 #pragma once
 
 #include <string>

@@ -4,13 +4,17 @@
 #include <ranges>
 
 #include "store/model/registry.h"
+#include "store/model/saved_lists.h"
+#include "store/select/list_grammar.h"
+#include "store/select/list_scan.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 using Visit = std::function<void(ReferenceSite const&)>;
 
-/// The tables that a reference of a module may be met by; load panels count as elements.
+/// The tables that a reference of a module may be met by; load panels count as elements. Storeys
+/// count as a table too.
 struct Target {
   std::string_view stem;  ///< of the first of them, empty when there is none
   std::function<bool(int)> exists = [](int) { return false; };
@@ -19,7 +23,10 @@ struct Target {
 /// Looks targets up by module for one model.
 class Targets {
  public:
-  explicit Targets(CZelData const& model) {
+  explicit Targets(CZelData const& model)
+      : m_model(model), m_storeys{"Storey", [&model](int n) {
+                                    return model.GridPlaneStorey(n) != 0;
+                                  }} {
     ForEachTable([&](auto const& row) {
       if (row.module == CModule::None) return;
       auto& target = m_targets[static_cast<std::size_t>(row.module)];
@@ -31,16 +38,32 @@ class Targets {
   }
 
   Target const& Of(CModule::ModuleId module) const {
+    if (module == CModule::Storey) return m_storeys;
     auto const i = static_cast<std::size_t>(module);
     return i < m_targets.size() ? m_targets[i] : m_none;
+  }
+  /// The saved lists that lists of a kind may name.
+  Target Lists(SelType kind) const {
+    return {"List", [&table = m_model.List(), kind](int n) {
+              return SavedLists(table, kind).Find(n) != nullptr;
+            }};
   }
 
  private:
   static constexpr std::size_t kModules = 512;  // above every number of a table
 
+  CZelData const& m_model;
   std::array<Target, kModules> m_targets;
+  Target m_storeys;
   Target m_none;
 };
+
+/// Whether a word of lists takes a node whose co-ordinates it compares: X to YZ.
+constexpr bool IsCoordinateWord(int token) {
+  constexpr int kX = -34;
+  constexpr int kYZ = -39;
+  return token <= kX && token >= kYZ;
+}
 
 /// Completes a site, whose table, record and place in a list are known, and passes it on.
 struct Emitter {
@@ -48,12 +71,36 @@ struct Emitter {
   Visit const& visit;
   ReferenceSite site;
 
-  void Emit(int value, CModule::ModuleId module) {
-    auto const& target = targets.Of(module);
+  void Emit(int value, CModule::ModuleId module) { Emit(value, targets.Of(module)); }
+  void Emit(int value, Target const& target) {
     site.value = value;
     site.target = target.stem;
     site.exists = value > 0 && target.exists(value);
     visit(site);
+  }
+
+  /// Emits what the words of a list name. @param own the table of its numbers.
+  void Emit(Data::CEntList const& list, CModule::ModuleId own) {
+    if (list.TypeOf() == SelCase) return;
+    Data::ListScanner scanner(Data::ListAccess::Text(list).Tokens());
+    Data::ListElement element;
+    while (scanner.Next(element)) {
+      site.index = static_cast<int>(element.begin);
+      EmitElement(element, list.TypeOf(), own);
+    }
+    site.index = -1;
+  }
+
+ private:
+  void EmitElement(Data::ListElement const& element, SelType kind, CModule::ModuleId own) {
+    using Item = Data::ListElement::Item;
+    if (element.part != Data::ListElement::Part::Item) return;
+    bool const number = element.item == Item::Numbers && !element.IsRange();
+    if (number && element.first != Data::kHighest) Emit(element.first, own);
+    if (element.item != Item::Word) return;
+    if (Data::IsOwnNumberWord(element.token, kind)) Emit(element.first, own);
+    if (IsCoordinateWord(element.token)) Emit(element.first, CModule::Node);
+    if (element.token == Data::kSavedList) Emit(element.first, targets.Lists(kind));
   }
 };
 
@@ -64,11 +111,20 @@ struct ReferenceField {
   std::function<void(Record const&, Emitter&)> visit;
 };
 
+/// Whether an item of a list names no record, but says how the list is meant.
+template <class List, class Item>
+bool IsWordOf(Item const& item) {
+  if constexpr (std::is_same_v<List, Data::CTopoList>)
+    return Data::CTopoList::IsWord(item);
+  else
+    return false;
+}
+
 /// Calls visit(item) for each item of a list, and meanwhile keeps its place in the site.
 template <class List, class VisitItem>
 void ForEachItem(List const& list, Emitter& emitter, VisitItem&& visit) {
   for (emitter.site.index = 0; auto const& item : list) {
-    visit(item);
+    if (!IsWordOf<List>(item)) visit(item);
     ++emitter.site.index;
   }
   emitter.site.index = -1;
@@ -94,7 +150,11 @@ void AddReferenceFields(std::vector<ReferenceField<Record>>& fields, Row const& 
                       }});
   };
   std::string const name(row.name);
-  if constexpr (std::is_same_v<Value, int>) {
+  if constexpr (std::derived_from<Value, Data::CEntList>) {
+    add(name, [row](Value const& list, Record const& record, Emitter& emitter) {
+      emitter.Emit(list, row.target == nullptr ? EntModId(list.TypeOf()) : row.target(record));
+    });
+  } else if constexpr (std::is_same_v<Value, int>) {
     if (row.target == nullptr) return;
     add(name, [row](int value, Record const& record, Emitter& emitter) {
       emitter.Emit(value, row.target(record));

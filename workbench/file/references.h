@@ -15,7 +15,7 @@ struct ReferenceSite {
   std::string_view table;   ///< stem of the record's table
   int number = 0;           ///< number of the record, 0 for one that a model has once
   std::string_view field;   ///< with dots for a field of a field: "parentMember.member"
-  int index = -1;           ///< place in a list, -1 for a single number
+  int index = -1;           ///< place in a list or among its words, -1 for a single number
   int value = 0;            ///< the number that is referred to; 0 is none
   std::string_view target;  ///< stem of the table that it points into, empty when no table has it
   bool exists = false;      ///< whether the target table has such a record
@@ -23,8 +23,9 @@ struct ReferenceSite {
 
 /// Calls visit for every reference field of every record, in the order of the registry and records
 /// in ascending number, empty references (0) included. The views of a site are good for the time of
-/// the program. Lists that are kept as text are not walked: what they select is the business of the
-/// lists.
+/// the program. Of a list that a record holds, the numbers that stand alone are references, so are
+/// nodes behind co-ordinate words and saved lists behind "#"; the index is the place among the
+/// words. Ranges may have holes, and are none. Saved lists are not walked.
 void ForEachReference(CZelData const& model,
                       std::function<void(ReferenceSite const&)> const& visit);
 

@@ -9,6 +9,8 @@
 
 #include "store/numeric/vbool6.h"
 #include "store/record/entity.h"
+#include "store/record/held_list.h"
+#include "store/record/topo_list.h"
 #include "store/select/list_text.h"
 #include "workbench/file/enum_values.h"
 #include "workbench/file/json_number.h"
@@ -76,6 +78,13 @@ struct Codec<CString> {
   }
 };
 
+/// Fails since a text is no list.
+template <class Value>
+[[noreturn]] void FailNoList(Value& in, Data::ListFault const& fault) {
+  in.Fail("no list: " + fault.reason.ToUtf8() + " at character " +
+          std::to_string(fault.position + 1));
+}
+
 /// The text of a selection list.
 template <>
 struct Codec<Data::ListText> {
@@ -83,12 +92,46 @@ struct Codec<Data::ListText> {
   static void Read(Value& in, Data::ListText& value) {
     auto const text = CString::FromUtf8(in.String());
     Data::ListFault fault{};
-    if (!value.Set(text, std::nullopt, &fault))
-      in.Fail("no list: " + fault.reason.ToUtf8() + " at character " +
-              std::to_string(fault.position + 1));
+    if (!value.Set(text, std::nullopt, &fault)) FailNoList(in, fault);
   }
   static void Write(std::string& out, Data::ListText const& value) {
     AppendJsonString(out, WriteListTokens(value.Tokens()).ToUtf8());
+  }
+  template <class Json>
+  static Json Schema() {
+    return {{"type", "string"}};
+  }
+};
+
+/// A list whose kind its field tells: its text alone.
+template <SelType Kind>
+struct Codec<Data::ListOf<Kind>> {
+  template <class Value>
+  static void Read(Value& in, Data::ListOf<Kind>& list) {
+    list = {};
+    Data::ListFault fault{};
+    if (!list.SetString(CString::FromUtf8(in.String()), &fault)) FailNoList(in, fault);
+  }
+  static void Write(std::string& out, Data::ListOf<Kind> const& list) {
+    AppendJsonString(out, list.String().ToUtf8());
+  }
+  template <class Json>
+  static Json Schema() {
+    return {{"type", "string"}};
+  }
+};
+
+/// The text of a member's topology.
+template <>
+struct Codec<Data::CTopoList> {
+  template <class Value>
+  static void Read(Value& in, Data::CTopoList& value) {
+    int fault = 0;
+    if (!value.SetString(CString::FromUtf8(in.String()), &fault))
+      in.Fail("no topology: fault at character " + std::to_string(fault + 1));
+  }
+  static void Write(std::string& out, Data::CTopoList const& value) {
+    AppendJsonString(out, value.String().ToUtf8());
   }
   template <class Json>
   static Json Schema() {

@@ -31,9 +31,46 @@ TEST(Axis, IsGivenByOriginXAndAVectorInItsXYPlane) {
   EXPECT_EQ(axis.Frame().AxisVec(Direction::X), axis.XAxis());
 }
 
+TEST(Axis, CanBeMoved) {
+  CAxis axis(L"", AxisType::Spherical, {1, 2, 3}, {0, 1, 0}, {-1, 0, 0});
+  axis.SetOrigin({4, 5, 6});
+  EXPECT_EQ(axis, CAxis(L"", AxisType::Spherical, {4, 5, 6}, {0, 1, 0}, {-1, 0, 0}));
+}
+
 TEST(Axis, HasGlobalDirectionsWhereItsOwnSpanNoPlane) {
   CAxis const axis(L"", AxisType::Cartesian, {}, {0, 1, 0}, {0, 2, 0});
   EXPECT_EQ(axis.Frame(), Util::CDirCos());
+}
+
+void ExpectFrame(Util::CDirCos const& frame, Vec3<double> const& x, Vec3<double> const& y,
+                 Vec3<double> const& z) {
+  EXPECT_TRUE(Testing::IsNear(frame.AxisVec(Direction::X), x));
+  EXPECT_TRUE(Testing::IsNear(frame.AxisVec(Direction::Y), y));
+  EXPECT_TRUE(Testing::IsNear(frame.AxisVec(Direction::Z), z));
+}
+
+TEST(Axis, HasOneFrameAtAllPointsWhenItIsCartesian) {
+  CAxis const axis(L"", AxisType::Cartesian, {1, 2, 3}, {0, 1, 0}, {-1, 0, 0});
+  EXPECT_EQ(axis.DirCos({5, 6, 7}), axis.Frame());
+  EXPECT_EQ(axis.DirCos({0, 0, 0}), axis.Frame());
+}
+
+TEST(Axis, PointsOutwardsTangentiallyAndUpWhenItIsCylindrical) {
+  CAxis const axis(L"", AxisType::Cylindrical, {1, 2, 3}, {1, 0, 0}, {0, 1, 0});
+  ExpectFrame(axis.DirCos({1, 7, -4}), {0, 1, 0}, {-1, 0, 0}, {0, 0, 1});
+  ExpectFrame(axis.DirCos({4, -2, 9}), {0.6, -0.8, 0}, {0.8, 0.6, 0}, {0, 0, 1});
+  EXPECT_EQ(axis.DirCos({1, 2, 8}), axis.Frame());
+}
+
+TEST(Axis, PointsOutwardsTangentiallyAndTowardsThePoleWhenItIsSpherical) {
+  CAxis const axis(L"", AxisType::Spherical, {1, 2, 3}, {1, 0, 0}, {0, 1, 0});
+  // At the equator as if it were cylindrical.
+  ExpectFrame(axis.DirCos({1, 7, 3}), {0, 1, 0}, {-1, 0, 0}, {0, 0, 1});
+  // (3, 0, 4) from the origin: outwards (0.6, 0, 0.8); x cross y = (-0.8, 0, 0.6).
+  ExpectFrame(axis.DirCos({4, 2, 7}), {0.6, 0, 0.8}, {0, 1, 0}, {-0.8, 0, 0.6});
+  ExpectFrame(axis.DirCos({1, 2, 9}), {0, 0, 1}, {0, 1, 0}, {-1, 0, 0});
+  ExpectFrame(axis.DirCos({1, 2, -9}), {0, 0, -1}, {0, 1, 0}, {1, 0, 0});
+  EXPECT_EQ(axis.DirCos({1, 2, 3}), axis.Frame());
 }
 
 TEST(Axis, HasFixedTypeNumbers) {

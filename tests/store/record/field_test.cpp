@@ -47,6 +47,16 @@ TEST(Same, TellsVectorsAndArraysOfDoublesApartToTheBit) {
   EXPECT_FALSE(Same(std::array{1.0, 0.0}, std::array{1.0, -0.0}));
 }
 
+TEST(Same, ComparesTheItemsOfAListToTheBit) {
+  using Points = std::vector<Vec2<double>>;
+  EXPECT_TRUE(Same(Points{{0, 1}}, Points{{0, 1}}));
+  EXPECT_FALSE(Same(Points{{0, 1}}, Points{{-0.0, 1}}));
+  EXPECT_FALSE(Same(Points{{0, 1}}, Points{{0, 1}, {2, 3}}));
+  EXPECT_FALSE(Same(std::vector{0.0}, std::vector{-0.0}));
+  EXPECT_TRUE(Same(std::vector{1, 2}, std::vector{1, 2}));
+  EXPECT_FALSE(Same(std::vector{1, 2}, std::vector{2, 1}));
+}
+
 TEST(Same, ComparesTheDescribedFieldsOfARecordAndNoOther) {
   Outer const a;
   Outer b;

@@ -49,6 +49,13 @@ TEST(Spec, RefusesUnknownTolerancesAndValuesThatAreNone) {
   EXPECT_EQ(spec, CSpec());
 }
 
+TEST(Spec, NamesNoPlaneOfTheConstructionGridAtFirst) {
+  CSpec spec;
+  EXPECT_EQ(spec.ConsGridRef(), 0);
+  spec.SetConsGridRef(4);
+  EXPECT_EQ(spec.ConsGridRef(), 4);
+}
+
 TEST(Unit, ConvertsLengthsAndAnglesAndNothingElse) {
   CUnit unit;
   EXPECT_EQ(unit.Conversion(CUnit::kLength), 1);
@@ -87,11 +94,13 @@ TEST(Defaults, KeepEachNameByItself) {
 
 TEST(OneOffs, CompareEveryField) {
   Testing::ExpectFields<CSpec>({{"genTol", [](CSpec& s) { s.SetGenTol(TolType::AxisAngle, 2); }},
-                                {"unit", [](CSpec& s) {
+                                {"unit",
+                                 [](CSpec& s) {
                                    CUnit unit;
                                    unit.SetConversion(CUnit::kAngle, 2);
                                    s.SetUnit(unit);
-                                 }}});
+                                 }},
+                                {"consGridRef", [](CSpec& s) { s.SetConsGridRef(3); }}});
   Testing::ExpectFields<CUnit>({{"length", [](CUnit& u) { u.SetConversion(CUnit::kLength, 2); }},
                                 {"angle", [](CUnit& u) { u.SetConversion(CUnit::kAngle, 2); }}});
   Testing::ExpectFields<GenTolerances>(

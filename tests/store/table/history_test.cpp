@@ -4,6 +4,7 @@
 
 #include <map>
 #include <random>
+#include <stdexcept>
 
 #include "store/table/paged_table.h"
 
@@ -108,7 +109,8 @@ class Machine {
     if (kind < 88) return Accept();
     if (kind < 91) return Abandon();
     if (kind < 95) return Move(true);
-    if (kind < 98) return Move(false);
+    if (kind < 97) return Move(false);
+    if (kind < 98) return ThrowInSteps(Pick(1, 3));
     m_snapshots.emplace_back(m_table, m_plain);
     if (m_snapshots.size() > 20) m_snapshots.erase(m_snapshots.begin());
   }
@@ -159,6 +161,30 @@ class Machine {
     m_table = m_open.back().table;
     m_plain = m_open.back().plain;
     m_open.pop_back();
+  }
+  /// Steps within each other, all of which an exception leaves.
+  void ThrowInSteps(int depth) {
+    if (m_open.size() + static_cast<std::size_t>(depth) > 4) return;
+    auto const before = m_plain;
+    try {
+      LeaveSteps(depth);
+      FAIL() << "nothing was thrown";
+    } catch (std::runtime_error const&) {
+    }
+    ASSERT_EQ(m_plain, before);
+    ASSERT_EQ(ToPlain(m_table), before);
+  }
+  void LeaveSteps(int depth) {
+    struct Scope {
+      Machine& machine;
+      ~Scope() { machine.Abandon(); }
+    };
+    Open();
+    Scope const scope{*this};
+    Store();
+    Remove();
+    if (depth == 1) throw std::runtime_error("out of the innermost step");
+    LeaveSteps(depth - 1);
   }
   void Move(bool back) {
     auto& from = back ? m_undo : m_redo;

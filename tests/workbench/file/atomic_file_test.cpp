@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 
@@ -19,6 +20,9 @@ int g_renameFault = 0;
 int g_fsyncFault = 0;
 /// What is called before a rename, if anything.
 void (*g_beforeRename)() = nullptr;
+/// Number of the write at which the process is killed, 0 for none, and what a write takes at most.
+int g_killAtWrite = 0;
+constexpr std::size_t kMostOfAWrite = 1000;
 
 }  // namespace
 
@@ -30,6 +34,11 @@ extern "C" int rename(char const* from, char const* to) noexcept {
     return -1;
   }
   return static_cast<int>(::syscall(SYS_rename, from, to));
+}
+extern "C" ssize_t write(int descriptor, void const* bytes, std::size_t count) {
+  if (g_killAtWrite > 0 && --g_killAtWrite == 0) ::kill(::getpid(), SIGKILL);
+  auto const most = g_killAtWrite > 0 ? std::min(count, kMostOfAWrite) : count;
+  return ::syscall(SYS_write, descriptor, bytes, most);
 }
 extern "C" int fsync(int descriptor) {
   if (g_fsyncFault != 0) {
@@ -171,6 +180,29 @@ TEST_F(AtomicFile, LeavesTheOldFileWhenTheDiskIsFull) {
   std::signal(SIGXFSZ, handler);
   EXPECT_EQ(failure, "cannot be written: File too large");
   ExpectOnlyOld("a");
+}
+
+// Five writes of a part each, and the process killed at the first, the second and so on.
+TEST_F(AtomicFile, LeavesTheOldFileAndNoOtherWhenKilledAtAnyWrite) {
+  int const probe = ::open(Path("").c_str(), O_WRONLY | O_TMPFILE, 0600);
+  if (probe < 0) GTEST_SKIP() << "the file system has no files without a name";
+  ::close(probe);
+  Put("a", "old");
+  std::string const text(5 * kMostOfAWrite, 'x');
+  for (int at = 1; at <= 6; ++at) {
+    auto const child = ::fork();
+    if (child == 0) {
+      g_killAtWrite = at;
+      WriteFileAtomically(Path("a"), text);
+      ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(WIFSIGNALED(status), at <= 5) << at;
+    if (at <= 5) ExpectOnlyOld("a");
+  }
+  EXPECT_EQ(Contents(Path("a")), text);
+  EXPECT_EQ(Count(), 1);
 }
 
 TEST_F(AtomicFile, LeavesTheOldFileWhenItCannotBeSynchronised) {

@@ -33,7 +33,9 @@ TEST(ModelSchema, HasOneEntryATableAndOneOffBehindTheHeader) {
   std::vector<std::string> const header{"$schema", "format", "version", "generator", "units"};
   ASSERT_GE(keys.size(), header.size());
   EXPECT_TRUE(std::equal(header.begin(), header.end(), keys.begin()));
-  for (auto const* key : {"Spec", "Defaults", "Node", "Elem", "LoadPanel", "Axis", "List"})
+  for (auto const* key :
+       {"Spec", "Defaults", "Node", "Elem", "LoadPanel", "Axis", "GridPlane", "GridSurface",
+        "GridLine", "Polyline", "Alignment", "List", "Block", "Assembly", "GrView", "OpView"})
     EXPECT_EQ(std::count(keys.begin(), keys.end(), key), 1) << key;
 }
 
@@ -44,6 +46,16 @@ TEST(ModelSchema, TellsWhatIsRequired) {
   EXPECT_EQ(schema["definitions"]["Elem"]["required"], Json({"n", "type", "topology"}));
   EXPECT_EQ(schema["definitions"]["LoadPanel"]["required"], Json({"n", "topology"}));
   EXPECT_FALSE(schema["definitions"]["Spec"].contains("required"));
+}
+
+TEST(ModelSchema, TellsListsByTheirTextWhereTheirKindIsFixed) {
+  EXPECT_EQ(Field("GridSurface", "elements"),
+            Json::parse(R"({"type": "string", "default": "all"})"));
+  EXPECT_EQ(Field("Assembly", "storey"), Json::parse(R"({"type": "string", "default": ""})"));
+  auto const entities = Field("Assembly", "entities");
+  EXPECT_EQ(entities["properties"]["kind"]["enum"], Json({0, 1, 2, 3, 4, 5}));
+  EXPECT_EQ(entities["properties"]["text"]["type"], "string");
+  EXPECT_EQ(entities["properties"].size(), 2u);
 }
 
 TEST(ModelSchema, TellsBoundsValuesPatternsAndDefaults) {

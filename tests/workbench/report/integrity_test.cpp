@@ -6,6 +6,7 @@
 
 #include "store/record/axis.h"
 #include "store/record/ent_list.h"
+#include "store/record/member.h"
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 
@@ -50,6 +51,44 @@ TEST(FindFaults, NamesAMissingNumberInEachReferenceFieldOfAnElement) {
     ASSERT_EQ(found.size(), 1u) << row.field;
     EXPECT_EQ(found[0],
               (Finding{"dangling-reference", "Elem", 2, row.field, row.index, 99, row.target}));
+  }
+}
+
+TEST(FindFaults, NamesTheMissingParentOfAnElementOrPanel) {
+  auto model = Sound();
+  Change(model, [](Data::CElement& e) { e.SetParentMember({99, 0}); });
+  auto panel = Testing::Panel({1, 2, 3});
+  panel.SetParentMember({98, 0});
+  model.SetLoadPanel(7, panel);
+  EXPECT_EQ(FindFaults(model),
+            (std::vector<Finding>{
+                {"dangling-reference", "Elem", 2, "parentMember.member", -1, 99, "Member"},
+                {"dangling-reference", "LoadPanel", 7, "parentMember.member", -1, 98, "Member"}}));
+}
+
+TEST(FindFaults, NamesAMissingNumberInEachReferenceFieldOfAMember) {
+  struct Row {
+    char const* field;
+    int index;
+    char const* target;
+    void (*plant)(Data::CMember&);
+  };
+  for (auto const& row :
+       {Row{"topology", 2, "Node", [](Data::CMember& m) { m.SetTopo(CString(L"1 arc 99 3")); }},
+        Row{"orientationNode", -1, "Node", [](Data::CMember& m) { m.SetOrientationNode(99); }},
+        Row{"children.elements", 1, "Elem", [](Data::CMember& m) {
+              m.AddChildElement(2, 0);
+              m.AddChildElement(99, 0);
+            }}}) {
+    auto model = Sound();
+    Data::CMember member(MembType::Beam, 1, 1);
+    member.SetTopo(CString(L"1 3"));
+    row.plant(member);
+    model.SetMember(5, member);
+    auto const found = FindFaults(model);
+    ASSERT_EQ(found.size(), 1u) << row.field;
+    EXPECT_EQ(found[0],
+              (Finding{"dangling-reference", "Member", 5, row.field, row.index, 99, row.target}));
   }
 }
 
