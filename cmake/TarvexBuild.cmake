@@ -12,8 +12,9 @@ target_compile_options(tarvex_options INTERFACE
   # With optimisation GCC 12 warns without cause about inlined strings and small vectors.
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-stringop-overflow;-Wno-stringop-overread;-Wno-array-bounds;-Wno-restrict>
   $<$<BOOL:${TARVEX_WERROR}>:-Werror>
-  # The standard library's stable_sort calls a function of its own that it has deprecated.
-  $<$<CXX_COMPILER_ID:Clang>:-Wno-deprecated-declarations>)
+  # The standard library's stable_sort calls a function of its own that it has deprecated; older Boost
+  # casts numbers beyond the values of enumerations in constant expressions.
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-deprecated-declarations;-Wno-enum-constexpr-conversion>)
 target_compile_definitions(tarvex_options INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 if(TARVEX_SANITIZE)
   target_compile_options(tarvex_options INTERFACE -fsanitize=${TARVEX_SANITIZE}

@@ -420,8 +420,11 @@ def saved_lists(number):
 def storeys():
     """A grid plane a floor level, from the upper basement floor to the roof."""
     names = {TOWER_BASE - 1: "Basement", TOWER_BASE: "Ground", ROOF: "Roof"}
-    return [{"n": i, "name": names.get(i, f"Floor {i - TOWER_BASE}"), "elevation": clean(LEVELS[i]), "storey": True}
-            for i in range(1, ROOF + 1)]
+    return [{"n": i, "name": names.get(i, f"Floor {i - TOWER_BASE}")}
+            | ({"elevation": clean(LEVELS[i])} if LEVELS[i] else {}) | {"storey": True} for i in range(1, ROOF + 1)]
+
+
+MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]
 
 
 def member_records(members, number, element_number):
@@ -432,9 +435,8 @@ def member_records(members, number, element_number):
         for e in children:
             e["parentMember"] = {"member": n}
         made["topology"] = " ".join(str(number.get(item, item)) for item in made["topology"])
-        fields = {k: v for k, v in made.items() if (k, v) != ("property", 1)}
-        numbers = [element_number[id(e)] for e in children]
-        records.append({"n": n} | fields | {"children": [{"replica": 0, "elements": numbers}]})
+        made["children"] = [{"elements": [element_number[id(e)] for e in children]}]
+        records.append({"n": n} | {k: made[k] for k in MEMBER_FIELDS if k in made and (k, made[k]) != ("property", 1)})
     return records
 
 

@@ -97,7 +97,8 @@ class TARVEX_STORE_EXPORT EntityQueries {
   /// Whether the topology of a member is one that can be meshed: its nodes exist; a 1D member is a
   /// line whose successive nodes stand apart by more than GenTol(Coincidence), or one arc whose
   /// nodes have a centre at equal distance within it; the outline of a 2D member and its holes have
-  /// three nodes or more and are wider on the mean than it; the strips of a 3D member close to a surface.
+  /// three nodes or more and are wider on the mean than it; the strips of a 3D member close to a
+  /// surface.
   bool IsMemberTopoValid(Data::CMember const& member) const;
 
  protected:

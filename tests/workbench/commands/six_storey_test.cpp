@@ -79,8 +79,8 @@ TEST(SixStorey, HasMembersAsLongAndAsLargeAsTheirElements) {
       length += model.ElemLen(member.Elem(i), EntAt::Nodes);
       area += model.ElemArea(member.Elem(i));
     }
-    if (member.Is1D()) EXPECT_NEAR(length, model.MemberLen(number, EntAt::Nodes), 1e-9) << n;
-    if (member.Is2D()) EXPECT_NEAR(area, AreaOf(model, member.Topo()), 1e-9) << n;
+    EXPECT_NEAR(length, member.Is1D() ? model.MemberLen(number, EntAt::Nodes) : 0, 1e-9) << n;
+    EXPECT_NEAR(area, member.Is2D() ? AreaOf(model, member.Topo()) : 0, 1e-9) << n;
   }
 }
 

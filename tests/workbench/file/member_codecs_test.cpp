@@ -72,7 +72,10 @@ TEST(MemberFields, HoldEveryFormOfTopology) {
 
 TEST(MemberFields, AreRefusedWhereTheyAreNone) {
   auto const fault = [](std::string const& fields) {
-    auto const found = FaultOf(Testing::ModelFile(R"("Member": [{"n": 1, )" + fields + "}]"));
+    auto const found =
+        FaultOf(Testing::ModelFile(",\n"
+                                   R"("Member": [{"n": 1, )" +
+                                   fields + "}]"));
     return found ? found->Text() : "";
   };
   EXPECT_NE(fault(R"("topology": "1 to 2")").find("no topology: fault at character 3"),
