@@ -20,7 +20,7 @@ constexpr std::array kTopoWords{
     TopoWordRow{kTopoPoints, L"points("}, TopoWordRow{kTopoClose, L")"},
     TopoWordRow{kTopoStripEnd, L";"}};
 
-constexpr bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
+constexpr bool IsTopoDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 
 /// Takes one node number or word off the front of a text; empty when it begins with neither.
 std::optional<int> TakeTopoItem(std::wstring_view& text) {
@@ -31,7 +31,7 @@ std::optional<int> TakeTopoItem(std::wstring_view& text) {
   }
   long long number = 0;
   std::size_t digits = 0;
-  for (; digits < text.size() && IsDigit(text[digits]); ++digits) {
+  for (; digits < text.size() && IsTopoDigit(text[digits]); ++digits) {
     number = number * 10 + (text[digits] - L'0');
     if (number > kHighestNumber) return std::nullopt;
   }

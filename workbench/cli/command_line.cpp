@@ -49,13 +49,15 @@ void AddCommonOptions(CLI::App& app, CommandKind kind, Invocation& invocation) {
         ->type_name("");
     app.add_flag("--strict", invocation.strict, "refuse references to missing records");
   }
-  if (kind == CommandKind::Changes) {
+  if (kind == CommandKind::Changes || kind == CommandKind::Draws) {
     app.add_option("-o,--output", invocation.output, "the file to write, - for standard output")
         ->type_name("OUT");
+    app.add_flag("--force", invocation.force, "replace an existing output");
+  }
+  if (kind == CommandKind::Changes) {
     app.add_flag("--in-place", invocation.inPlace,
                  "replace the model file; the old one stays as MODEL.bak");
     app.add_flag("--dry-run", invocation.dryRun, "report only, write nothing");
-    app.add_flag("--force", invocation.force, "replace an existing output");
   }
   app.add_flag("--json", invocation.json, "print the report as JSON");
   app.add_flag("-q,--quiet", invocation.quiet, "print no report and no warnings");
@@ -75,6 +77,10 @@ std::string Explain(CLI::ParseError const& fault) {
 }
 
 void CheckDestination(Invocation const& invocation) {
+  auto const kind = invocation.command->kind;
+  if (kind == CommandKind::Draws && invocation.output.empty())
+    throw UsageError("give the file to write: -o OUT");
+  if (kind != CommandKind::Changes) return;
   int const count = !invocation.output.empty() + invocation.inPlace + invocation.dryRun;
   if (count != 1) throw UsageError("give one of -o OUT, --in-place and --dry-run");
   if (invocation.inPlace && invocation.model == "-")
@@ -135,13 +141,15 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
     throw UsageError(word.empty() ? "give a command, see tarvex --help" : Explain(fault));
   }
   invocation.arguments = TakeArguments(*invocation.command, values);
-  if (invocation.command->kind == CommandKind::Changes) CheckDestination(invocation);
+  invocation.arguments.SetModelFile(invocation.model);
+  CheckDestination(invocation);
   return invocation;
 }
 
 RecipeStep ParseRecipeLine(std::vector<std::string> const& words) {
   auto const& command = FindCommand(words.at(0));
-  if (command.kind == CommandKind::Alone || command.name == kRecipeCommand)
+  auto const kind = command.kind;
+  if (kind == CommandKind::Alone || kind == CommandKind::Draws || command.name == kRecipeCommand)
     throw UsageError("a recipe can't hold '" + words[0] + "'");
   CLI::App app("", words[0]);
   app.set_help_flag();

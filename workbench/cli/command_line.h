@@ -37,7 +37,7 @@ struct RecipeStep {
 };
 
 /// Reads the words of one line of a recipe. Throws UsageError, also for a command that a recipe
-/// can't hold: one that takes no model, or a recipe.
+/// can't hold: one that takes no model or draws, or a recipe.
 RecipeStep ParseRecipeLine(std::vector<std::string> const& words);
 
 /// Reads the words behind the program's name. Throws UsageError with one line of text.

@@ -6,6 +6,7 @@
 #include "store/model/undo_step.h"
 #include "workbench/cli/command_line.h"
 #include "workbench/commands/errors.h"
+#include "workbench/file/atomic_file.h"
 #include "workbench/file/model_reader.h"
 #include "workbench/file/model_writer.h"
 #include "workbench/file/references.h"
@@ -79,6 +80,8 @@ void Run(Invocation const& invocation, Report& report) {
     else if (!invocation.dryRun)
       WriteModel(model, invocation.output);
   }
+  if (command.kind == CommandKind::Draws)
+    WriteFileAtomically(invocation.output, report.result.file);
   report.exit = report.result.Exit();
 }
 

@@ -50,8 +50,13 @@ class Arguments {
   double Number(std::string_view name) const;
   bool Flag(std::string_view name) const { return Text(name) == "true"; }
 
+  /// The model file as it was named, "-" for standard input; empty in a recipe.
+  std::string const& ModelFile() const { return m_modelFile; }
+  void SetModelFile(std::string const& path) { m_modelFile = path; }
+
  private:
   std::map<std::string, std::string, std::less<>> m_values;
+  std::string m_modelFile;
 };
 
 /// Something that the user should know and that is no failure.
@@ -89,6 +94,7 @@ struct CommandResult {
   /// The data of each command that this one ran, for a recipe.
   std::shared_ptr<nlohmann::ordered_json const> steps;
   std::string text;  ///< the result for a reader, whole lines
+  std::string file;  ///< of a command that draws, what is to be written to the output
 
   ExitCode Exit() const { return lookAt || !undone.empty() ? ExitCode::LookAt : ExitCode::Done; }
 };
@@ -98,6 +104,7 @@ enum class CommandKind {
   Alone,    ///< takes none
   Reads,    ///< reads one
   Changes,  ///< changes one, so that it needs an output
+  Draws,    ///< reads one and writes a file that is no model
 };
 
 /// One command.

@@ -2,6 +2,7 @@
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
+#include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 #include "workbench/commands/selection.h"
@@ -11,8 +12,8 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), OrientationCommands(),
-                             RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
+                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }

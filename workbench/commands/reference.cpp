@@ -24,6 +24,7 @@ std::string Usage(Command const& command) {
     text += "]";
   }
   if (command.kind == CommandKind::Changes) text += " (-o OUT | --in-place | --dry-run)";
+  if (command.kind == CommandKind::Draws) text += " -o OUT";
   return text + "\n";
 }
 
@@ -62,6 +63,8 @@ changes a model needs exactly one of:
 | `-o OUT` | write to OUT, `-` for standard output; an existing file only with `--force` |
 | `--in-place` | replace MODEL; the old file stays as `MODEL.bak` |
 | `--dry-run` | report only |
+
+A command that draws a model needs `-o OUT`, by the same rules, and leaves the model as it is.
 
 Every command takes `--json` (the report as one JSON object), `-q` (no report, no warnings), `-v`
 (long lists in full), `--color auto|always|never` and, with a model, `--strict` (a reference to a

@@ -56,6 +56,7 @@ Json ChangesJson(std::vector<TableChange> const& changes) {
 Json DataJson(Report const& report) {
   auto const& result = report.result;
   Json own = result.result == nullptr ? Json::object() : *result.result;
+  if (!report.changesModel && !report.output.empty()) own["output"] = report.output;
   if (!report.changesModel) return own;
   auto const orNull = [](std::string const& text) { return text.empty() ? Json() : Json(text); };
   Json json{{"input", orNull(report.input)},

@@ -49,7 +49,9 @@ std::string ChangesText(std::vector<TableChange> const& changes, bool verbose) {
 std::string ReportText(Report const& report, bool verbose) {
   auto const& result = report.result;
   auto text = result.text;
-  if (!report.changesModel) return text;
+  auto const written =
+      report.output.empty() ? std::string() : "  written to " + report.output + "\n";
+  if (!report.changesModel) return text + written;
   text += report.command + (report.changes.empty() ? ": nothing changed" : ":");
   if (report.dryRun) text += " (dry run)";
   text += "\n";
@@ -58,8 +60,7 @@ std::string ReportText(Report const& report, bool verbose) {
   text += UndoneLines(result.undone, verbose);
   for (auto const& tolerance : result.tolerances)
     text += "  " + tolerance.name + " " + NumberText(tolerance.value) + " " + tolerance.unit + "\n";
-  if (!report.output.empty()) text += "  written to " + report.output + "\n";
-  return text;
+  return text + written;
 }
 
 }  // namespace Tarvex::Workbench

@@ -22,8 +22,9 @@ TEST_F(Program, PrintsItsVersion) {
 TEST_F(Program, HelpNamesEveryCommand) {
   auto const result = RunTarvex({"--help"});
   EXPECT_EQ(result.exit, 0);
-  for (auto const* command : {"info", "align-1d", "align-edges", "align-normals", "agree-normals",
-                              "flip", "spin", "check", "diff", "run", "schema", "reference"})
+  for (auto const* command :
+       {"info", "picture", "align-1d", "align-edges", "align-normals", "agree-normals", "flip",
+        "spin", "check", "diff", "run", "schema", "reference"})
     EXPECT_NE(result.out.find(command), std::string::npos) << command;
 }
 
