@@ -435,7 +435,7 @@ def member_records(members, number, element_number):
         for e in children:
             e["parentMember"] = {"member": n}
         made["topology"] = " ".join(str(number.get(item, item)) for item in made["topology"])
-        made["children"] = [{"elements": [element_number[id(e)] for e in children]}]
+        made["children"] = [[0, element_number[id(e)]] for e in children]
         records.append({"n": n} | {k: made[k] for k in MEMBER_FIELDS if k in made and (k, made[k]) != ("property", 1)})
     return records
 

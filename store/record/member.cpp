@@ -29,6 +29,13 @@ MembTypeRow const& MembTypeOf(MembType type) {
 
 namespace Data {
 
+void AppendChild(ChildLists& lists, int number, int replica) {
+  auto at = std::lower_bound(lists.begin(), lists.end(), replica,
+                             [](auto const& list, int wanted) { return list.replica < wanted; });
+  if (at == lists.end() || at->replica != replica) at = lists.insert(at, {replica, {}});
+  at->elements.push_back(number);
+}
+
 int CMember::Dimension() const {
   int const dimension = MembTypeOf(m_type).dimension;
   return dimension != 0 ? dimension : DimensionOf(m_topology);
@@ -87,13 +94,6 @@ void CMember::AddChildElement(int number, int replica) {
       return;
   }
   AppendChildElement(number, replica);
-}
-
-void CMember::AppendChildElement(int number, int replica) {
-  auto at = std::lower_bound(m_children.begin(), m_children.end(), replica,
-                             [](auto const& c, int wanted) { return c.replica < wanted; });
-  if (at == m_children.end() || at->replica != replica) at = m_children.insert(at, {replica, {}});
-  at->elements.push_back(number);
 }
 
 bool CMember::RemoveChildElement(int number) {

@@ -24,12 +24,13 @@ struct MemberChildren {
   std::vector<int> elements;  ///< elements and load panels, in the order in which they were added
 
   friend bool operator==(MemberChildren const&, MemberChildren const&) = default;
-  static constexpr auto Fields() {
-    return std::make_tuple(
-        Plain<MemberChildren>("replica", &MemberChildren::replica),
-        Reference<MemberChildren, CModule::Elem>("elements", &MemberChildren::elements));
-  }
 };
+
+/// The children of a member by ascending replica; a replica without any is not in it.
+using ChildLists = std::vector<MemberChildren>;
+
+/// Appends a number to the list of a replica.
+TARVEX_STORE_EXPORT void AppendChild(ChildLists& lists, int number, int replica);
 
 /// A member. A generic one is 1D with two nodes or as an arc, 3D with strips of triangles and 2D
 /// otherwise.
@@ -107,11 +108,11 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   bool HasElements() const { return !m_children.empty(); }
   /// Child elements and panels by replica; a replica without any is not in it.
   std::map<int, std::vector<int>> ChildElements() const;
-  std::vector<MemberChildren> const& Children() const { return m_children; }
+  ChildLists const& Children() const { return m_children; }
   /// Lists a number as a child of a replica; one that is listed there stays where it is.
   void AddChildElement(int number, int replica);
   /// As AddChildElement, for a number that the replica is known not to list.
-  void AppendChildElement(int number, int replica);
+  void AppendChildElement(int number, int replica) { AppendChild(m_children, number, replica); }
   /// Takes a number off the children. @return whether it was one.
   bool RemoveChildElement(int number);
   void ClearChildElements() { m_children.clear(); }
@@ -143,7 +144,7 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
             Plain<CMember>("analysisOrder", &CMember::m_analysisOrder),
             Plain<CMember>("dummy", &CMember::m_dummy),
             Plain<CMember>("releaseEdges", &CMember::m_releaseEdges),
-            Plain<CMember>("children", &CMember::m_children)));
+            Reference<CMember, CModule::Elem>("children", &CMember::m_children)));
   }
 
  private:
@@ -163,7 +164,7 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   Member::AnalysisOrder m_analysisOrder = Member::AnalysisOrder::Linear;
   bool m_dummy = false;
   bool m_releaseEdges = false;
-  std::vector<MemberChildren> m_children;  // by ascending replica, none without elements
+  ChildLists m_children;
 };
 
 }  // namespace Data

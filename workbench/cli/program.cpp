@@ -4,13 +4,11 @@
 #include <iostream>
 
 #include "store/model/undo_step.h"
-#include "workbench/cli/command_line.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/atomic_file.h"
 #include "workbench/file/model_reader.h"
 #include "workbench/file/model_writer.h"
 #include "workbench/file/references.h"
-#include "workbench/report/report.h"
 #include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
@@ -85,15 +83,15 @@ void Run(Invocation const& invocation, Report& report) {
   report.exit = report.result.Exit();
 }
 
-/// Runs and turns every way to fail into the report's failure and exit code.
-void RunReported(std::vector<std::string> const& words, Invocation& invocation, Report& report) {
+/// Acts and turns every way to fail into the report's failure and exit code.
+template <class Action>
+void Reported(Report& report, Action&& action) {
   auto const fail = [&](ExitCode exit, std::string const& text, FilePlace place = {}) {
     report.exit = exit;
     report.failure = Failure{text, std::move(place)};
   };
   try {
-    invocation = ParseCommandLine(words);
-    if (invocation.command != nullptr && invocation.print.empty()) Run(invocation, report);
+    action();
   } catch (UsageError const& fault) {
     fail(ExitCode::Usage, fault.what());
   } catch (Refusal const& fault) {
@@ -118,10 +116,18 @@ void PrintMessages(Invocation const& invocation, Report const& report, std::ostr
 
 }  // namespace
 
+Report RunInvocation(Invocation const& invocation) {
+  Report report;
+  Reported(report, [&] { Run(invocation, report); });
+  return report;
+}
+
 int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err) {
   Invocation invocation;
   Report report;
-  RunReported(words, invocation, report);
+  Reported(report, [&] { invocation = ParseCommandLine(words); });
+  if (!report.failure && invocation.command != nullptr && invocation.print.empty())
+    report = RunInvocation(invocation);
   if (!invocation.print.empty()) {
     out << invocation.print << std::flush;
     return static_cast<int>(ExitCode::Done);

@@ -5,7 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "workbench/cli/command_line.h"
+#include "workbench/report/report.h"
+
 namespace Tarvex::Workbench {
+
+/// Reads, runs and writes as an invocation says; every way to fail is in the report.
+Report RunInvocation(Invocation const& invocation);
 
 /// Runs the words behind the program's name. Results go to out, messages to err; a model that is
 /// written to standard output goes there whatever out is. @return the exit code.

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <vector>
 
 #include "store/record/connection.h"
+#include "store/record/member.h"
 #include "workbench/file/object_codec.h"
 
 namespace Tarvex::Workbench {
@@ -138,6 +140,36 @@ struct Codec<Data::ConnectList> {
     auto const connect = Codec<CElemConnect>::Schema<Json>();
     Json const free{{"type", "null"}};
     return {{"type", "array"}, {"items", {{"anyOf", Json::array({connect, free})}}}};
+  }
+};
+
+/// The children of a member: [replica, number] each, by ascending replica.
+template <>
+struct Codec<Data::ChildLists> {
+  using Pair = std::array<int, 2>;
+
+  template <class Value>
+  static void Read(Value& in, Data::ChildLists& lists) {
+    std::set<Pair> listed;
+    lists.clear();
+    in.ForEachItem([&](Value& item) {
+      Pair pair{};
+      Codec<Pair>::Read(item, pair);
+      if (!listed.insert(pair).second)
+        item.Fail("child " + std::to_string(pair[1]) + " of replica " + std::to_string(pair[0]) +
+                  " stands twice");
+      Data::AppendChild(lists, pair[1], pair[0]);
+    });
+  }
+  static void Write(std::string& out, Data::ChildLists const& lists) {
+    std::vector<Pair> pairs;
+    for (auto const& children : lists)
+      for (int const number : children.elements) pairs.push_back({children.replica, number});
+    WriteItems(out, pairs);
+  }
+  template <class Json>
+  static Json Schema() {
+    return {{"type", "array"}, {"items", Codec<Pair>::Schema<Json>()}};
   }
 };
 

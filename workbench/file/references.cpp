@@ -164,6 +164,16 @@ void AddReferenceFields(std::vector<ReferenceField<Record>>& fields, Row const& 
     add(name, [row](Value const& list, Record const& record, Emitter& emitter) {
       ForEachItem(list, emitter, [&](int value) { emitter.Emit(value, row.target(record)); });
     });
+  } else if constexpr (std::is_same_v<Value, Data::ChildLists>) {
+    add(name, [row](Value const& lists, Record const& record, Emitter& emitter) {
+      emitter.site.index = 0;
+      for (auto const& children : lists)
+        for (int const number : children.elements) {
+          emitter.Emit(number, row.target(record));
+          ++emitter.site.index;
+        }
+      emitter.site.index = -1;
+    });
   } else if constexpr (RangeOfDescribed<Value>) {
     for (auto const& inner : ReferenceFields<std::ranges::range_value_t<Value>>())
       add(name + "." + inner.name, [&inner](Value const& list, Record const&, Emitter& emitter) {

@@ -1,5 +1,7 @@
 #include "workbench/cli/program.h"
 
+#include <stdexcept>
+
 #include "tests/workbench/run.h"
 
 namespace Tarvex::ProgramTest {
@@ -172,6 +174,30 @@ TEST_F(Program, JsonTellsAFailureWithItsPlace) {
   EXPECT_EQ(json.at("error").at("line"), 1);
   EXPECT_EQ(json.at("error").at("column"), 12);
   EXPECT_EQ(json.at("error").at("pointer"), "/format");
+}
+
+// A tool that breaks half way.
+TEST_F(Program, AnExceptionOfAToolIsOneLineAndLeavesTheModelAlone) {
+  constexpr Workbench::Command kBreaks{
+      "breaks",
+      "",
+      {},
+      Workbench::CommandKind::Changes,
+      [](CZelData& model, Workbench::Arguments const&, Workbench::CommandResult&) {
+        model.BlankNode(1, 1);
+        throw std::out_of_range("invalid vector subscript");
+      }};
+  Workbench::Invocation invocation;
+  invocation.command = &kBreaks;
+  invocation.model = Model();
+  invocation.inPlace = true;
+  auto const report = Workbench::RunInvocation(invocation);
+  EXPECT_EQ(static_cast<int>(report.exit), 3);
+  ASSERT_TRUE(report.failure);
+  EXPECT_EQ(report.failure->text, "invalid vector subscript");
+  EXPECT_TRUE(report.failure->place.file.empty());
+  EXPECT_EQ(Read("in.json"), Testing::SmallModel());
+  EXPECT_EQ(NumFiles(), 1u);
 }
 
 TEST_F(Program, JsonTellsAFaultOfTheCommandLineToo) {

@@ -56,7 +56,7 @@ TEST(MemberFields, AreWrittenWhereTheyDifferFromTheDefault) {
         m.AddChildElement(8, 0);
         m.AddChildElement(7, 2);
       },
-      "", R"(, "children": [{"elements": [8]}, {"replica": 2, "elements": [9, 7]}])");
+      "", R"(, "children": [[0, 8], [2, 9], [2, 7]])");
 }
 
 TEST(MemberFields, HoldEveryFormOfTopology) {
@@ -84,6 +84,10 @@ TEST(MemberFields, AreRefusedWhereTheyAreNone) {
   EXPECT_NE(fault(R"("group": 1)"), "");  // without topology
   EXPECT_NE(fault(R"("topology": "1 2", "type": 9)"), "");
   EXPECT_NE(fault(R"("topology": "1 2", "analysisOrder": 4)"), "");
+  EXPECT_NE(fault(R"("topology": "1 2", "children": [[0, 3], [1, 3], [0, 3]])")
+                .find("child 3 of replica 0 stands twice"),
+            std::string::npos);
+  EXPECT_NE(fault(R"("topology": "1 2", "children": [[0]])"), "");
   EXPECT_EQ(fault(R"("topology": "1 2")"), "");
 }
 

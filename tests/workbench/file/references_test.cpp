@@ -88,9 +88,9 @@ TEST(ForEachReference, NamesEveryReferenceOfAMemberAndNoWordOfItsTopology) {
                        "Member 1 topology 2: 7 Node",
                        "Member 1 topology 3: 9 Node",
                        "Member 1 orientationNode -1: 8 Node",
-                       "Member 1 children.elements 0: 4 Elem exists",
-                       "Member 1 children.elements 0: 5 Elem",
-                       "Member 1 children.elements 1: 6 Elem",
+                       "Member 1 children 0: 4 Elem exists",
+                       "Member 1 children 1: 5 Elem",
+                       "Member 1 children 2: 6 Elem",
                    }));
 }
 

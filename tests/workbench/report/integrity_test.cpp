@@ -76,7 +76,7 @@ TEST(FindFaults, NamesAMissingNumberInEachReferenceFieldOfAMember) {
   for (auto const& row :
        {Row{"topology", 2, "Node", [](Data::CMember& m) { m.SetTopo(CString(L"1 arc 99 3")); }},
         Row{"orientationNode", -1, "Node", [](Data::CMember& m) { m.SetOrientationNode(99); }},
-        Row{"children.elements", 1, "Elem", [](Data::CMember& m) {
+        Row{"children", 1, "Elem", [](Data::CMember& m) {
               m.AddChildElement(2, 0);
               m.AddChildElement(99, 0);
             }}}) {
