@@ -66,7 +66,8 @@ Vec3<double> EntityQueries::EntCoor(SEntRef ref, int place, EntAt at, CElement::
 Vec3<double> EntityQueries::EntCentre(SEntRef ref) const {
   Vec3<double> sum;
   int count = 0;
-  for (int const node : Geometry::Topology(m_core.state, ref).Nodes()) {
+  Geometry::Topology const topology(m_core.state, ref);
+  for (int const node : topology.Nodes()) {
     auto const p = Geometry::Position(m_core.state, node);
     if (!p) continue;
     sum += *p;

@@ -1,5 +1,6 @@
 #include "store/model/entity_tables.h"
 
+#include "store/geometry/axis_trans.h"
 #include "store/model/model_core.h"
 #include "store/model/node_use.h"
 #include "store/model/table_ops.h"
@@ -70,6 +71,15 @@ void ChangeEither(ModelCore& core, int n, Change&& change) {
 template <class Change>
 void ChangeNode(ModelCore& core, int n, Change&& change) {
   change(TableOps::Edit(core.state.node, "Node", n));
+}
+
+/// Factors from internal to user values of the three co-ordinates of an axis.
+Vec3<double> UserFactors(Data::CUnit const& unit, AxisType type) {
+  double const length = unit.Conversion(Data::CUnit::kLength);
+  double const angle = unit.Conversion(Data::CUnit::kAngle);
+  if (type == AxisType::Cylindrical) return {length, angle, length};
+  if (type == AxisType::Spherical) return {length, angle, angle};
+  return {length, length, length};
 }
 
 /// Stores a node under its old attachments; a record that is given brings none.
@@ -159,6 +169,19 @@ int EntityTables::NearestNode(Vec3<double> const& point, double distance) const 
 
 Vec3<double> const& EntityTables::NodeCoor(int n) const {
   return TableOps::Get(m_core.state.node, "Node", n).Position();
+}
+
+Vec3<double> EntityTables::NodeCoor(int n, Data::CUnit const& unit, Data::CAxis const& axis) const {
+  auto const factor = UserFactors(unit, axis.Type());
+  auto const user = Util::CAxisTrans(axis).Global2User(NodeCoor(n));
+  return {user.x * factor.x, user.y * factor.y, user.z * factor.z};
+}
+
+void EntityTables::SetNodeCoor(int n, Data::CUnit const& unit, Data::CAxis const& axis,
+                               Vec3<double> const& position) {
+  auto const factor = UserFactors(unit, axis.Type());
+  Vec3<double> const user{position.x / factor.x, position.y / factor.y, position.z / factor.z};
+  SetNodeCoor(n, Util::CAxisTrans(axis).User2Global(user));
 }
 
 void EntityTables::InitNodalUseElem() { NodeUse::BuildNow(m_core); }

@@ -27,6 +27,7 @@ class CString;
 class ModelCore;
 class Vbool6;
 namespace Data {
+class CAxis;
 class CNode;
 class CUnit;
 }  // namespace Data
@@ -54,6 +55,11 @@ class TARVEX_STORE_EXPORT EntityTables {
   void SetNodeSid(int n, CString const& sid);
   /// Global co-ordinates of a node; a missing number is std::out_of_range.
   Vec3<double> const& NodeCoor(int n) const;
+  /// The same in the co-ordinates of an axis and a set of units: lengths and, for the angles of a
+  /// cylindrical or spherical axis, angles are internal values times the conversion of the unit.
+  Vec3<double> NodeCoor(int n, Data::CUnit const& unit, Data::CAxis const& axis) const;
+  void SetNodeCoor(int n, Data::CUnit const& unit, Data::CAxis const& axis,
+                   Vec3<double> const& position);
   /// The nodes within a radius of a point (inclusive, model length units), ascending. Right at all
   /// times, also during a rebuild hold.
   std::vector<int> NodesAroundPoint(Vec3<double> const& point, double radius) const;

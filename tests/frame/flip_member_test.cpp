@@ -1,11 +1,14 @@
 // Members turned round, singly and by the align tool.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "store/model/zel_data.h"
 #include "store/record/member.h"
 #include "tarvex/orientation.h"
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
+#include "tests/support/random_model.h"
 
 namespace Tarvex::FlipMemberTest {
 namespace {
@@ -162,6 +165,61 @@ TEST_F(Members, OfEqualComponentsFollowX) {
   EXPECT_TRUE(Align(model, {1, 2}));
   EXPECT_EQ(model.Member(1).Topo().String(), L"5 1");
   EXPECT_EQ(model.Member(2).Topo().String(), L"1 6");
+}
+
+/// The types of offsets are not carried through a reversal.
+void ClearOffsetTypes(CZelData& model) {
+  for (int n = 1; n <= model.HighestMember(); ++n) {
+    if (!model.MemberExist(n)) continue;
+    auto offset = model.Member(n).Offset();
+    offset.SetType(0, OffsetType::Given);
+    offset.SetType(1, OffsetType::Given);
+    model.SetEntOffset({SelMember, n}, offset);
+  }
+}
+
+TEST(FlipMemberProperty, FlippedTwiceARandomModelIsAsBefore) {
+  int flipped = 0;
+  int refused = 0;
+  Testing::ForEachRandomModel(100, [&](CZelData& model, Testing::Random&) {
+    ClearOffsetTypes(model);
+    CZelData const before(model);
+    for (int n = 1; n <= model.HighestMember() + 1; ++n) {
+      CZelData const single(model);
+      bool const did = FlipMember(model, n);
+      ++(did ? flipped : refused);
+      EXPECT_EQ(did, model.MemberExist(n) && model.Member(n).Is1D());
+      EXPECT_EQ(model == single, !did) << n;
+    }
+    EXPECT_TRUE(Testing::AttachmentsFollowTopology(model));
+    for (auto const& [n, element] : before.Elem()) EXPECT_TRUE(model.Elem(int(n)) == element);
+    for (int n = 1; n <= model.HighestMember(); ++n) FlipMember(model, n);
+    EXPECT_TRUE(IsUnchanged(model, before));
+  });
+  EXPECT_GT(flipped, 100);
+  EXPECT_GT(refused, 100);
+}
+
+TEST(FlipMemberProperty, AlignedMembersRunInThePositiveSenseOfTheirLargestComponent) {
+  Testing::ForEachRandomModel(100, [](CZelData& model, Testing::Random&) {
+    std::vector<int> numbers;
+    for (auto const& [n, member] : model.Member()) numbers.push_back(static_cast<int>(n));
+    CZelData again(model);
+    bool const turned = Align(model, numbers);
+    EXPECT_EQ(turned, Align(again, numbers));  // the same from the same state
+    EXPECT_TRUE(IsUnchanged(again, model));
+    for (auto const& [n, member] : model.Member()) {
+      if (!member.Is1D()) continue;
+      auto const along =
+          model.NodeCoor(member.Topo(member.NumTopo() - 1)) - model.NodeCoor(member.Topo(0));
+      auto const size = [](double v) { return std::abs(v); };
+      double largest = along.x;
+      if (size(along.y) > size(largest) * (1 + 1e-12)) largest = along.y;
+      if (size(along.z) > size(largest) * (1 + 1e-12)) largest = along.z;
+      EXPECT_GE(largest, 0) << n;
+    }
+    EXPECT_FALSE(Align(model, numbers));
+  });
 }
 
 }  // namespace

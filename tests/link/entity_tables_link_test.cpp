@@ -18,9 +18,15 @@ using Table = tarvex_unordered_map<unsigned int, Record>;
 TEST(EntityTablesLink, NodeOperations) {
   EXPECT_TRUE(AreLinked(&T::NodeExist, Member<Data::CNode const&(int) const>(&T::Node),
                         Member<Table<Data::CNode> const&() const>(&T::Node), &T::HighestNode,
-                        &T::SetNode, &T::_SetNode, &T::BlankNode, &T::CreateNode, &T::SetNodeCoor,
-                        &T::SetNodeAxis, &T::SetNodeRestraint, &T::SetNodeSid, &T::NodeCoor,
-                        &T::NearestNode, &T::InitNodalUseElem));
+                        &T::SetNode, &T::_SetNode, &T::BlankNode, &T::CreateNode,
+                        Member<void(int, Vec3<double> const&)>(&T::SetNodeCoor), &T::SetNodeAxis,
+                        &T::SetNodeRestraint, &T::SetNodeSid,
+                        Member<Vec3<double> const&(int) const>(&T::NodeCoor), &T::NearestNode,
+                        &T::InitNodalUseElem));
+  EXPECT_TRUE(AreLinked(
+      Member<Vec3<double>(int, Data::CUnit const&, Data::CAxis const&) const>(&T::NodeCoor),
+      Member<void(int, Data::CUnit const&, Data::CAxis const&, Vec3<double> const&)>(
+          &T::SetNodeCoor)));
   EXPECT_TRUE(AreLinked(
       Member<std::vector<int>(Vec3<double> const&, double) const>(&T::NodesAroundPoint),
       Member<void(Vec3<double> const&, std::vector<int>&, double) const>(&T::NodesAroundPoint)));

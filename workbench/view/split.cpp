@@ -73,7 +73,7 @@ class LineSplitter {
     auto const run = line.points[1] - from;
     double const square = Dot(run, run);
     double const slack = kOnLine * Length(run);
-    auto const [low, high] = std::minmax(Dot(m_axis, from), Dot(m_axis, line.points[1]));
+    auto const [low, high] = std::minmax({Dot(m_axis, from), Dot(m_axis, line.points[1])});
     std::vector<Stop> stops{{0, from, line.nodes[0]}, {1, line.points[1], line.nodes[1]}};
     auto at = std::lower_bound(m_points.begin(), m_points.end(), low - slack,
                                [](MeetingPoint const& p, double v) { return p.along < v; });

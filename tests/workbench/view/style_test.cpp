@@ -29,7 +29,7 @@ double Luminance(std::string const& hex) {
 }
 
 double Contrast(std::string const& a, std::string const& b) {
-  auto const [low, high] = std::minmax(Luminance(a), Luminance(b));
+  auto const [low, high] = std::minmax({Luminance(a), Luminance(b)});
   return (high + 0.05) / (low + 0.05);
 }
 
