@@ -24,6 +24,7 @@ TOWER_Y = (3.5, 17.5)               # m, width 14 published, place over the base
 # Kinds of members and what 2D ones become, by their numbers in model files.
 T_BEAM, T_COLUMN, T_SLAB, T_WALL, T_SOLID = 1, 2, 4, 5, 13
 QUADRATIC, LOAD_PANELS = 1, 3
+LOAD_PANEL = 10                     # type of a 2D property that only takes loads to its edges
 
 # Chosen: everything below.
 BASEMENT_HEIGHT = 3                 # m
@@ -39,6 +40,9 @@ CANOPY_X, CANOPY_Y = (10, 20), (6.75, 14.25)                   # m
 COLUMN_SIDE, BEAM_WIDTH = 0.5, 0.3                             # m
 BEAM_DEPTH, TRIMMER_DEPTH = 0.5, 0.4                           # m
 SLAB, PODIUM_SLAB = 0.18, 0.25                                 # m, thickness
+CORE_WALL, BASEMENT_WALL, CANOPY_SLAB = 0.25, 0.3, 0.15        # m, thickness
+POST_SIDE = 0.3                     # m
+YOUNGS_MODULUS = round(22e9 * 3.8 ** 0.3) // 1000 * 1000       # N/m2, of concrete with a mean strength of 38 N/mm2
 PODIUM_DROP = -0.1                  # m, the slab round the tower lies lower for the paving
 
 TOWER_BASE = BASEMENTS              # level 0 of the building, counted from the raft up
@@ -424,6 +428,27 @@ def storeys():
             | ({"elevation": clean(LEVELS[i])} if LEVELS[i] else {}) | {"storey": True} for i in range(1, ROOF + 1)]
 
 
+def rectangle_section(n, name, depth, width):
+    component = {"description": f"rectangle {depth} {width}", "materialAnalysis": 1}
+    return {"n": n, "name": name, "components": [component]}
+
+
+def properties():
+    """The material, and the properties that elements name; the description of a section tells depth and width."""
+    concrete = {"n": 1, "name": "Concrete", "youngsModulus": YOUNGS_MODULUS, "poissonsRatio": 0.2, "density": 2500,
+                "thermalExpansion": 1e-5}
+    sections = [rectangle_section(P_COLUMN, "Column", COLUMN_SIDE, COLUMN_SIDE),
+                rectangle_section(P_BEAM, "Beam", BEAM_DEPTH, BEAM_WIDTH),
+                rectangle_section(P_TRIMMER, "Trimmer", TRIMMER_DEPTH, BEAM_WIDTH),
+                rectangle_section(P_POST, "Post", POST_SIDE, POST_SIDE)]
+    plates = [(P_SLAB, "Slab", SLAB), (P_PODIUM, "Podium slab", PODIUM_SLAB), (P_CANOPY, "Canopy", CANOPY_SLAB),
+              (P_WALL, "Wall", CORE_WALL), (P_BASEMENT_WALL, "Basement wall", BASEMENT_WALL)]
+    prop_2d = [{"n": n, "name": name, "materialAnalysis": 1, "thickness": t} for n, name, t in plates]
+    prop_2d.append({"n": P_FACADE, "name": "Facade", "type": LOAD_PANEL})
+    prop_3d = [{"n": P_RAFT, "name": "Raft", "materialAnalysis": 1}]
+    return {"MatAnal": [concrete], "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+
+
 MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]
 
 
@@ -467,7 +492,7 @@ def model():
     panels = [e for e in elements if "type" not in e]
     axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}
     return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Member": member_table,
-            "Axis": [axis], "GridPlane": storeys(), "List": saved_lists(number)}
+            "Axis": [axis], "GridPlane": storeys(), "List": saved_lists(number)} | properties()
 
 
 def text():

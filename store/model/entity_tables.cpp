@@ -184,7 +184,10 @@ void EntityTables::SetNodeCoor(int n, Data::CUnit const& unit, Data::CAxis const
   SetNodeCoor(n, Util::CAxisTrans(axis).User2Global(user));
 }
 
-void EntityTables::InitNodalUseElem() { NodeUse::BuildNow(m_core); }
+void EntityTables::InitNodalUseElem() {
+  NodeUse::BuildNow(m_core);
+  m_core.naming.ForgetOrientation();
+}
 
 // Elements.
 

@@ -17,7 +17,7 @@ namespace Tarvex {
 
 /// What an expansion is made of beside the words: two with equal marks are equal.
 struct ListSources {
-  std::array<std::uint64_t, 5> marks{};
+  std::array<std::uint64_t, 8> marks{};
   friend bool operator==(ListSources const&, ListSources const&) = default;
 };
 

@@ -13,7 +13,7 @@ namespace {
 using Data::ListElement;
 
 /// What lists read beside the existence of entities.
-enum Read : int { kRecords = 1, kPositions = 2, kLists = 4 };
+enum Read : int { kRecords = 1, kPositions = 2, kLists = 4, kMaterials = 8 };
 
 int ReadsOf(Data::ListTokens const& tokens) {
   int reads = 0;
@@ -27,6 +27,7 @@ int ReadsOf(Data::ListTokens const& tokens) {
     auto const wordReads = ListWords::ReadsOf(element.token);
     if (wordReads.records) reads |= kRecords;
     if (wordReads.positions) reads |= kPositions;
+    if (wordReads.materials) reads |= kMaterials;
   }
   return reads;
 }
@@ -155,6 +156,11 @@ ListSources SourcesOf(CZelData const& model, ListForm const& form, int reads) {
     sources.marks[3] = std::bit_cast<std::uint64_t>(state.spec.GenTol(TolType::Coincidence));
   }
   if ((reads & kLists) != 0) sources.marks[4] = state.list.Revision();
+  if ((reads & kMaterials) != 0) {
+    sources.marks[5] = state.section.Revision();
+    sources.marks[6] = state.prop2D.Revision();
+    sources.marks[7] = state.prop3D.Revision();
+  }
   return sources;
 }
 

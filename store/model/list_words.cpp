@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <ranges>
 
 namespace Tarvex::ListWords {
 namespace {
 
-enum class Rule { Property, Group, Coordinates };
+enum class Rule { Property, Material, Group, Coordinates };
 
 /// The co-ordinates that must agree, as bits.
 enum Axes : int { kNoAxis = 0, kX = 1, kY = 2, kZ = 4 };
@@ -15,7 +16,7 @@ enum Axes : int { kNoAxis = 0, kX = 1, kY = 2, kZ = 4 };
 struct WordRow {
   int token;
   Rule rule;
-  CModule::ModuleId module = CModule::None;  ///< table of a property, None for any
+  CModule::ModuleId module = CModule::None;  ///< table of a property, None for any, or material
   int axes = kNoAxis;
 };
 
@@ -37,6 +38,14 @@ constexpr std::array kRows{
     WordRow{-37, Rule::Coordinates, CModule::None, kZ},
     WordRow{-38, Rule::Coordinates, CModule::None, kZ | kX},
     WordRow{-39, Rule::Coordinates, CModule::None, kY | kZ},
+    WordRow{-50, Rule::Material, CModule::MatAnal},       // M
+    WordRow{-51, Rule::Material, CModule::MatSteel},      // MS
+    WordRow{-52, Rule::Material, CModule::MatConcrete},   // MC
+    WordRow{-53, Rule::Material, CModule::MatAluminium},  // MA
+    WordRow{-54, Rule::Material, CModule::MatGlass},      // MG
+    WordRow{-55, Rule::Material, CModule::MatFrp},        // MP
+    WordRow{-57, Rule::Material, CModule::MatTimber},     // MT
+    WordRow{-58, Rule::Material, CModule::MatFabric},     // MF
 };
 
 WordRow const* Find(int token) {
@@ -50,18 +59,70 @@ constexpr bool IsPropertyTable(CModule::ModuleId module) {
   return module >= CModule::Section && module <= CModule::SpacerProp;
 }
 
+/// Whether test(table, number) holds for a property that a record refers to.
+template <class Record, class Test>
+bool AnyProperty(Record const& record, Test&& test) {
+  bool any = false;
+  ForEachField<Record>([&](auto const& field) {
+    if constexpr (std::is_same_v<typename std::remove_cvref_t<decltype(field)>::Value, int>) {
+      if (any || field.target == nullptr) return;
+      auto const target = field.target(record);
+      any = IsPropertyTable(target) && test(target, record.*field.member);
+    }
+  });
+  return any;
+}
+
 /// Whether a field of a record refers to a property of a table, or of any for CModule::None.
 template <class Record>
 bool HasProperty(Record const& record, CModule::ModuleId module, int number) {
-  bool has = false;
+  return AnyProperty(record, [&](CModule::ModuleId table, int property) {
+    return property == number && (module == CModule::None || module == table);
+  });
+}
+
+template <class Value>
+concept DescribedItems = std::ranges::range<Value> && Described<std::ranges::range_value_t<Value>>;
+
+/// Whether a field of a property, or of a part of it, names a material.
+template <class Record>
+bool NamesMaterial(Record const& record, CModule::ModuleId module, int number) {
+  bool names = false;
   ForEachField<Record>([&](auto const& field) {
-    if constexpr (std::is_same_v<typename std::remove_cvref_t<decltype(field)>::Value, int>) {
-      if (has || field.target == nullptr || record.*field.member != number) return;
-      auto const target = field.target(record);
-      has = IsPropertyTable(target) && (module == CModule::None || module == target);
+    using Value = typename std::remove_cvref_t<decltype(field)>::Value;
+    auto const& value = record.*field.member;
+    if constexpr (std::is_same_v<Value, int>) {
+      bool const named = field.target != nullptr && value == number;
+      names = names || (named && field.target(record) == module);
+    } else if constexpr (DescribedItems<Value>) {
+      for (auto const& part : value) names = names || NamesMaterial(part, module, number);
+    } else if constexpr (Described<Value>) {
+      names = names || NamesMaterial(value, module, number);
     }
   });
-  return has;
+  return names;
+}
+
+/// Calls visit(module, table) for the tables of properties that are made of a material.
+template <class Visit>
+void ForEachMadeTable(ModelState const& state, Visit&& visit) {
+  visit(CModule::Section, state.section);
+  visit(CModule::Prop2D, state.prop2D);
+  visit(CModule::Prop3D, state.prop3D);
+}
+
+/// Whether a record refers to a property that is made of a material.
+template <class Record>
+bool HasMaterial(ModelState const& state, Record const& record, CModule::ModuleId module,
+                 int number) {
+  return AnyProperty(record, [&](CModule::ModuleId target, int property) {
+    bool made = false;
+    ForEachMadeTable(state, [&](CModule::ModuleId candidate, auto const& table) {
+      auto const* found = candidate == target ? table.Find(property) : nullptr;
+      made = made || (found != nullptr && NamesMaterial(*found, module, number));
+    });
+    return made;
+  });
 }
 
 Data::TopoVector const& NodesOf(Data::CElement const& element) { return element.Topology(); }
@@ -123,7 +184,8 @@ Intervals Filter(ModelState const& state, SelType kind, Test&& test) {
 
 Reads ReadsOf(int token) {
   auto const* row = Find(token);
-  return {row != nullptr, row != nullptr && row->rule == Rule::Coordinates};
+  if (row == nullptr) return {};
+  return {true, row->rule == Rule::Coordinates, row->rule == Rule::Material};
 }
 
 bool IsPropertyWord(int token) {
@@ -137,6 +199,10 @@ Intervals Select(ModelState const& state, SelType kind, int token, int number) {
   if (row->rule == Rule::Property)
     return Filter(state, kind,
                   [&](auto const& record) { return HasProperty(record, row->module, number); });
+  if (row->rule == Rule::Material)
+    return Filter(state, kind, [&](auto const& record) {
+      return HasMaterial(state, record, row->module, number);
+    });
   if (row->rule == Rule::Coordinates)
     return Filter(state, kind, [place = Place(state, row->axes, number)](auto const& record) {
       return place.Has(record);

@@ -22,10 +22,12 @@ void ForEachTableOf(ModelState const& state, SelType kind, Visit&& visit) {
 struct Reads {
   bool records = false;    ///< the records of the kind
   bool positions = false;  ///< the nodes, and the tolerance of coincidence
+  bool materials = false;  ///< the properties that are made of a material
 
   void Add(Reads other) {
     records = records || other.records;
     positions = positions || other.positions;
+    materials = materials || other.materials;
   }
 };
 

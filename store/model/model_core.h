@@ -10,26 +10,52 @@
 
 #include "store/model/child_index.h"
 #include "store/model/list_cache.h"
+#include "store/model/node_naming.h"
 #include "store/model/zel_data.h"
 #include "store/numeric/box.h"
 #include "store/numeric/point_index.h"
 #include "store/record/alignment.h"
 #include "store/record/assembly.h"
 #include "store/record/axis.h"
+#include "store/record/beam_loads.h"
 #include "store/record/block.h"
+#include "store/record/body_loads.h"
+#include "store/record/constraint_eqn.h"
 #include "store/record/element.h"
 #include "store/record/ent_list.h"
+#include "store/record/face_loads.h"
+#include "store/record/form_props.h"
 #include "store/record/grid_line.h"
+#include "store/record/grid_loads.h"
 #include "store/record/grid_plane.h"
 #include "store/record/grid_surface.h"
+#include "store/record/influences.h"
+#include "store/record/interactions.h"
+#include "store/record/joint.h"
+#include "store/record/link_prop.h"
 #include "store/record/load_panel.h"
+#include "store/record/mass_prop.h"
+#include "store/record/mat_anal.h"
+#include "store/record/mat_tables.h"
+#include "store/record/material.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/node_load.h"
+#include "store/record/other_props.h"
 #include "store/record/polyline.h"
+#include "store/record/prop_2d.h"
+#include "store/record/prop_3d.h"
+#include "store/record/res_spectrum.h"
+#include "store/record/restraints.h"
+#include "store/record/rigid.h"
+#include "store/record/section.h"
+#include "store/record/soil.h"
 #include "store/record/spec.h"
+#include "store/record/spring_prop.h"
 #include "store/record/views.h"
 #include "store/table/history.h"
 #include "store/table/paged_table.h"
+#include "store/table/positional_table.h"
 
 namespace Tarvex {
 
@@ -50,6 +76,60 @@ struct ModelState {
   PagedTable<Data::CAssembly> assembly;
   PagedTable<Data::CGrView> grView;
   PagedTable<Data::COpView> opView;
+  PagedTable<Data::Design::CMatSteel> matSteel;
+  PagedTable<Data::Design::CMatConc> matConcrete;
+  PagedTable<Data::Design::CMatFrp> matFrp;
+  PagedTable<Data::Design::CMatAlum> matAluminium;
+  PagedTable<Data::Design::CMatTimber> matTimber;
+  PagedTable<Data::Design::CMatGlass> matGlass;
+  PagedTable<Data::Design::CMatFabric> matFabric;
+  PagedTable<Data::Design::CMatRebar> matRebar;
+  PagedTable<Data::CMatAnal> matAnal;
+  PagedTable<Data::CTableT<double>> matCurve;
+  PagedTable<Data::CMatMatrix> matMatrix;
+  PagedTable<Data::CSection> section;
+  PagedTable<Data::CSpringProp> springProp;
+  PagedTable<Data::CMassProp> massProp;
+  PagedTable<Data::CProp2D> prop2D;
+  PagedTable<Data::CProp3D> prop3D;
+  PagedTable<Data::CLinkProp> linkProp;
+  PagedTable<Data::CDamperProp> damperProp;
+  PagedTable<Data::CCableProp> cableProp;
+  PagedTable<Data::CSpacerProp> spacerProp;
+  PagedTable<Data::CForceDensity1D> forceDensity1D;
+  PagedTable<Data::CSoapStress1D> soapStress1D;
+  PagedTable<Data::CForceDensity2D> forceDensity2D;
+  PagedTable<Data::CSoapStress2D> soapStress2D;
+  PagedTable<Data::CRC2DProp> rc2DProp;
+  PagedTable<Data::GeoSoilZone> soilZone;
+  PagedTable<Data::GeoSoilProfile> soilProfile;
+  PagedTable<Data::CResSpectrum> resSpectrum;
+  PositionalTable<Data::CNodeLoad> nodeLoad;
+  PositionalTable<Data::CNodeLoad> appliedDisplacement;
+  PositionalTable<Data::CNodeLoad> settlement;
+  PositionalTable<Data::CBeamLoad> beamLoad;
+  PositionalTable<Data::CAxialLoad> axialLoad;
+  PositionalTable<Data::CBeamDist> beamDist;
+  PositionalTable<Data::CBeamThermalLoad> beamThermalLoad;
+  PositionalTable<Data::CFaceLoad> faceLoad;
+  PositionalTable<Data::CEdgeLoad> edgeLoad;
+  PositionalTable<Data::CInPlaneLoad> inPlaneLoad;
+  PositionalTable<Data::CFaceThermalLoad> faceThermalLoad;
+  PositionalTable<Data::CBodyFaceLoad> bodyFaceLoad;
+  PositionalTable<Data::CBodyThermalLoad> bodyThermalLoad;
+  PositionalTable<Data::CGridPointLoad> gridPointLoad;
+  PositionalTable<Data::CGridLineLoad> gridLineLoad;
+  PositionalTable<Data::CGridAreaLoad> gridAreaLoad;
+  PositionalTable<Data::CGravityLoad> gravityLoad;
+  PositionalTable<Data::CGenRest> genRest;
+  PositionalTable<Data::CRigid> rigid;
+  PositionalTable<Data::CJoint> joint;
+  PositionalTable<Data::CConstraintEqn> constraintEqn;
+  PositionalTable<Data::CTiedInterface> tiedInterface;
+  PositionalTable<Data::CRaftInteraction> raftInteraction;
+  PositionalTable<Data::CPileInteraction> pileInteraction;
+  PositionalTable<Data::CInfluenceNode> influenceNode;
+  PositionalTable<Data::CInfluenceBeam> influenceBeam;
   Data::CSpec spec;
   Data::CDefaults defaults;
 
@@ -95,6 +175,9 @@ class ModelCore {
 
   /// Which members list an element.
   ChildIndex children;
+
+  /// What names nodes beside topology.
+  NodeNaming naming;
 
   /// Where the nodes are; built by the first query and followed from then on.
   std::optional<Util::PointIndex> positions;

@@ -10,50 +10,36 @@
 #include <tuple>
 
 #include "store/export.h"
+#include "store/model/positional_rows.h"
+#include "store/model/table_row.h"
 #include "store/model/zel_data.h"
 #include "store/record/alignment.h"
 #include "store/record/assembly.h"
 #include "store/record/axis.h"
 #include "store/record/block.h"
 #include "store/record/ent_list.h"
+#include "store/record/form_props.h"
 #include "store/record/grid_line.h"
 #include "store/record/grid_plane.h"
 #include "store/record/grid_surface.h"
+#include "store/record/link_prop.h"
+#include "store/record/mass_prop.h"
+#include "store/record/mat_anal.h"
+#include "store/record/mat_tables.h"
+#include "store/record/material.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/other_props.h"
 #include "store/record/polyline.h"
+#include "store/record/prop_2d.h"
+#include "store/record/prop_3d.h"
+#include "store/record/res_spectrum.h"
+#include "store/record/section.h"
+#include "store/record/soil.h"
+#include "store/record/spring_prop.h"
 #include "store/record/views.h"
 
 namespace Tarvex {
-
-/// How the records of a table are numbered.
-enum class TableShape {
-  Sparse,      ///< numbers with holes
-  Positional,  ///< the number is the position from 1
-};
-
-/// How records leave a table.
-enum class RemovalForm {
-  Blank,   ///< leaves holes
-  Delete,  ///< closes up where the table is positional
-};
-
-/// One sparse table with its operations.
-template <class R>
-struct TableRow {
-  using Record = R;
-
-  CModule::ModuleId module;
-  std::string_view stem;  ///< name of the table in files and messages
-  TableShape shape;
-  RemovalForm removal;
-  bool (CZelData::*exist)(int) const;
-  R const& (CZelData::*get)(int) const;
-  tarvex_unordered_map<unsigned int, R> const& (CZelData::*all)() const;
-  int (CZelData::*highest)() const;  ///< of a number space, which two tables may share
-  void (CZelData::*set)(int, R const&, SidMode);
-  void (CZelData::*remove)(int, int);
-};
 
 /// One record that a model has once.
 template <class R>
@@ -72,7 +58,7 @@ inline constexpr std::tuple kOneOffs{
     OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults},
 };
 
-inline constexpr std::tuple kTables{
+inline constexpr std::tuple kSparseTables{
     TableRow<Data::CNode>{CModule::Node, "Node", TableShape::Sparse, RemovalForm::Blank,
                           &CZelData::NodeExist, &CZelData::Node, &CZelData::Node,
                           &CZelData::HighestNode, &CZelData::SetNode, &CZelData::BlankNode},
@@ -125,7 +111,123 @@ inline constexpr std::tuple kTables{
     TableRow<Data::COpView>{CModule::None, "OpView", TableShape::Sparse, RemovalForm::Blank,
                             &CZelData::OpViewExist, &CZelData::OpView, &CZelData::OpView,
                             &CZelData::HighestOpView, &CZelData::SetOpView, &CZelData::BlankOpView},
+    TableRow<Data::Design::CMatSteel>{
+        CModule::MatSteel, "MatSteel", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatSteelExist, &CZelData::MatSteel, &CZelData::MatSteel,
+        &CZelData::HighestMatSteel, &CZelData::SetMatSteel, &CZelData::BlankMatSteel},
+    TableRow<Data::Design::CMatConc>{CModule::MatConcrete, "MatConcrete", TableShape::Sparse,
+                                     RemovalForm::Blank, &CZelData::MatConcreteExist,
+                                     &CZelData::MatConcrete, &CZelData::MatConcrete,
+                                     &CZelData::HighestMatConcrete, &CZelData::SetMatConcrete,
+                                     &CZelData::BlankMatConcrete},
+    TableRow<Data::Design::CMatFrp>{CModule::MatFrp, "MatFrp", TableShape::Sparse,
+                                    RemovalForm::Blank, &CZelData::MatFrpExist, &CZelData::MatFrp,
+                                    &CZelData::MatFrp, &CZelData::HighestMatFrp,
+                                    &CZelData::SetMatFrp, &CZelData::BlankMatFrp},
+    TableRow<Data::Design::CMatAlum>{
+        CModule::MatAluminium, "MatAluminium", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatAluminiumExist, &CZelData::MatAluminium, &CZelData::MatAluminium,
+        &CZelData::HighestMatAluminium, &CZelData::SetMatAluminium, &CZelData::BlankMatAluminium},
+    TableRow<Data::Design::CMatTimber>{
+        CModule::MatTimber, "MatTimber", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatTimberExist, &CZelData::MatTimber, &CZelData::MatTimber,
+        &CZelData::HighestMatTimber, &CZelData::SetMatTimber, &CZelData::BlankMatTimber},
+    TableRow<Data::Design::CMatGlass>{
+        CModule::MatGlass, "MatGlass", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatGlassExist, &CZelData::MatGlass, &CZelData::MatGlass,
+        &CZelData::HighestMatGlass, &CZelData::SetMatGlass, &CZelData::BlankMatGlass},
+    TableRow<Data::Design::CMatFabric>{
+        CModule::MatFabric, "MatFabric", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatFabricExist, &CZelData::MatFabric, &CZelData::MatFabric,
+        &CZelData::HighestMatFabric, &CZelData::SetMatFabric, &CZelData::BlankMatFabric},
+    TableRow<Data::Design::CMatRebar>{
+        CModule::MatRebar, "MatRebar", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatRebarExist, &CZelData::MatRebar, &CZelData::MatRebar,
+        &CZelData::HighestMatRebar, &CZelData::SetMatRebar, &CZelData::BlankMatRebar},
+    TableRow<Data::CMatAnal>{CModule::MatAnal, "MatAnal", TableShape::Sparse, RemovalForm::Blank,
+                             &CZelData::MatAnalExist, &CZelData::MatAnal, &CZelData::MatAnal,
+                             &CZelData::HighestMatAnal, &CZelData::SetMatAnal,
+                             &CZelData::BlankMatAnal},
+    TableRow<Data::CTableT<double>>{
+        CModule::MatCurve, "MatCurve", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::MatCurveExist, &CZelData::MatCurve, &CZelData::MatCurve,
+        &CZelData::HighestMatCurve, &CZelData::SetMatCurve, &CZelData::BlankMatCurve},
+    TableRow<Data::CMatMatrix>{CModule::MatMatrix, "MatMatrix", TableShape::Sparse,
+                               RemovalForm::Blank, &CZelData::MatMatrixExist, &CZelData::MatMatrix,
+                               &CZelData::MatMatrix, &CZelData::HighestMatMatrix,
+                               &CZelData::SetMatMatrix, &CZelData::BlankMatMatrix},
+    TableRow<Data::CSection>{CModule::Section, "Section", TableShape::Sparse, RemovalForm::Blank,
+                             &CZelData::SectionExist, &CZelData::Section, &CZelData::Section,
+                             &CZelData::HighestSection, &CZelData::SetSection,
+                             &CZelData::BlankSection},
+    TableRow<Data::CSpringProp>{
+        CModule::SpringProp, "SpringProp", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::SpringPropExist, &CZelData::SpringProp, &CZelData::SpringProp,
+        &CZelData::HighestSpringProp, &CZelData::SetSpringProp, &CZelData::BlankSpringProp},
+    TableRow<Data::CMassProp>{CModule::MassProp, "MassProp", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::MassPropExist, &CZelData::MassProp, &CZelData::MassProp,
+                              &CZelData::HighestMassProp, &CZelData::SetMassProp,
+                              &CZelData::BlankMassProp},
+    TableRow<Data::CProp2D>{CModule::Prop2D, "Prop2D", TableShape::Sparse, RemovalForm::Blank,
+                            &CZelData::Prop2DExist, &CZelData::Prop2D, &CZelData::Prop2D,
+                            &CZelData::HighestProp2D, &CZelData::SetProp2D, &CZelData::BlankProp2D},
+    TableRow<Data::CProp3D>{CModule::Prop3D, "Prop3D", TableShape::Sparse, RemovalForm::Blank,
+                            &CZelData::Prop3DExist, &CZelData::Prop3D, &CZelData::Prop3D,
+                            &CZelData::HighestProp3D, &CZelData::SetProp3D, &CZelData::BlankProp3D},
+    TableRow<Data::CLinkProp>{CModule::LinkProp, "LinkProp", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::LinkPropExist, &CZelData::LinkProp, &CZelData::LinkProp,
+                              &CZelData::HighestLinkProp, &CZelData::SetLinkProp,
+                              &CZelData::BlankLinkProp},
+    TableRow<Data::CDamperProp>{
+        CModule::DamperProp, "DamperProp", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::DamperPropExist, &CZelData::DamperProp, &CZelData::DamperProp,
+        &CZelData::HighestDamperProp, &CZelData::SetDamperProp, &CZelData::BlankDamperProp},
+    TableRow<Data::CCableProp>{CModule::CableProp, "CableProp", TableShape::Sparse,
+                               RemovalForm::Blank, &CZelData::CablePropExist, &CZelData::CableProp,
+                               &CZelData::CableProp, &CZelData::HighestCableProp,
+                               &CZelData::SetCableProp, &CZelData::BlankCableProp},
+    TableRow<Data::CSpacerProp>{
+        CModule::SpacerProp, "SpacerProp", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::SpacerPropExist, &CZelData::SpacerProp, &CZelData::SpacerProp,
+        &CZelData::HighestSpacerProp, &CZelData::SetSpacerProp, &CZelData::BlankSpacerProp},
+    TableRow<Data::CForceDensity1D>{CModule::ForceDensity1D, "ForceDensity1D", TableShape::Sparse,
+                                    RemovalForm::Blank, &CZelData::ForceDensity1DExist,
+                                    &CZelData::ForceDensity1D, &CZelData::ForceDensity1D,
+                                    &CZelData::HighestForceDensity1D, &CZelData::SetForceDensity1D,
+                                    &CZelData::BlankForceDensity1D},
+    TableRow<Data::CSoapStress1D>{
+        CModule::SoapStress1D, "SoapStress1D", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::SoapStress1DExist, &CZelData::SoapStress1D, &CZelData::SoapStress1D,
+        &CZelData::HighestSoapStress1D, &CZelData::SetSoapStress1D, &CZelData::BlankSoapStress1D},
+    TableRow<Data::CForceDensity2D>{CModule::ForceDensity2D, "ForceDensity2D", TableShape::Sparse,
+                                    RemovalForm::Blank, &CZelData::ForceDensity2DExist,
+                                    &CZelData::ForceDensity2D, &CZelData::ForceDensity2D,
+                                    &CZelData::HighestForceDensity2D, &CZelData::SetForceDensity2D,
+                                    &CZelData::BlankForceDensity2D},
+    TableRow<Data::CSoapStress2D>{
+        CModule::SoapStress2D, "SoapStress2D", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::SoapStress2DExist, &CZelData::SoapStress2D, &CZelData::SoapStress2D,
+        &CZelData::HighestSoapStress2D, &CZelData::SetSoapStress2D, &CZelData::BlankSoapStress2D},
+    TableRow<Data::CRC2DProp>{CModule::RC2DProp, "RC2DProp", TableShape::Sparse, RemovalForm::Blank,
+                              &CZelData::RC2DPropExist, &CZelData::RC2DProp, &CZelData::RC2DProp,
+                              &CZelData::HighestRC2DProp, &CZelData::SetRC2DProp,
+                              &CZelData::BlankRC2DProp},
+    TableRow<Data::GeoSoilZone>{CModule::None, "SoilZone", TableShape::Sparse, RemovalForm::Blank,
+                                &CZelData::SoilZoneExist, &CZelData::SoilZone, &CZelData::SoilZone,
+                                &CZelData::HighestSoilZone, &CZelData::SetSoilZone,
+                                &CZelData::BlankSoilZone},
+    TableRow<Data::GeoSoilProfile>{
+        CModule::None, "SoilProfile", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::SoilProfileExist, &CZelData::SoilProfile, &CZelData::SoilProfile,
+        &CZelData::HighestSoilProfile, &CZelData::SetSoilProfile, &CZelData::BlankSoilProfile},
+    TableRow<Data::CResSpectrum>{
+        CModule::None, "ResSpectrum", TableShape::Sparse, RemovalForm::Blank,
+        &CZelData::ResSpectrumExist, &CZelData::ResSpectrum, &CZelData::ResSpectrum,
+        &CZelData::HighestResSpectrum, &CZelData::SetResSpectrum, &CZelData::BlankResSpectrum},
 };
+
+/// All tables.
+inline constexpr auto kTables = std::tuple_cat(kSparseTables, kPositionalTables);
 
 }  // namespace Registry
 

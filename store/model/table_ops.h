@@ -17,23 +17,25 @@ namespace Tarvex::TableOps {
   throw std::out_of_range(std::string(stem) + " " + std::to_string(n) + " does not exist");
 }
 
-template <class Record>
-Record const& Get(PagedTable<Record> const& table, char const* stem, int n) {
+// A table is a PagedTable or a PositionalTable here.
+
+template <class Table>
+auto const& Get(Table const& table, char const* stem, int n) {
   auto const* record = table.Find(n);
   if (record == nullptr) ThrowMissing(stem, n);
   return *record;
 }
 
 /// The record of an existing number for changing in place.
-template <class Record>
-Record& Edit(PagedTable<Record>& table, char const* stem, int n) {
+template <class Table>
+auto& Edit(Table& table, char const* stem, int n) {
   if (!table.Exist(n)) ThrowMissing(stem, n);
   return table.Edit(n);
 }
 
 /// Stores a copy that knows its number.
-template <class Record>
-Record& Store(PagedTable<Record>& table, int n, Record const& record, SidMode sid) {
+template <class Table, class Record>
+Record& Store(Table& table, int n, Record const& record, SidMode sid) {
   auto& stored = table.Set(n, record);
   StoreAccess::SetNumber(stored, n);
   if (sid == SidMode::Drop) StoreAccess::ClearSid(stored);

@@ -41,8 +41,13 @@ CZelData::CZelData()
       MemberTables(*m_owned),
       GeometryTables(*m_owned),
       GridTables(*m_owned),
+      LoadTables(*m_owned),
+      GridLoadTables(*m_owned),
+      ConstraintTables(*m_owned),
+      PropertyTables(*m_owned),
       EntityQueries(*m_owned),
-      GridQueries(*m_owned, *this) {}
+      GridQueries(*m_owned, *this),
+      ConstraintQueries(*m_owned, *this) {}
 
 CZelData::CZelData(CZelData const& other)
     : ModelBase(other),
@@ -50,8 +55,13 @@ CZelData::CZelData(CZelData const& other)
       MemberTables(*m_owned),
       GeometryTables(*m_owned),
       GridTables(*m_owned),
+      LoadTables(*m_owned),
+      GridLoadTables(*m_owned),
+      ConstraintTables(*m_owned),
+      PropertyTables(*m_owned),
       EntityQueries(*m_owned),
-      GridQueries(*m_owned, *this) {}
+      GridQueries(*m_owned, *this),
+      ConstraintQueries(*m_owned, *this) {}
 
 CZelData& CZelData::operator=(CZelData const& other) {
   ModelBase::operator=(other);
@@ -109,7 +119,10 @@ void CZelData::RemoveModule(CModule::ModuleId module) {
   if (auto const* row = FindModule(module)) row->clear(*this);
 }
 
-void CZelData::FlagRebuild() { m_owned->rebuildAsked = true; }
+void CZelData::FlagRebuild() {
+  m_owned->rebuildAsked = true;
+  m_owned->naming.ForgetOrientation();
+}
 
 void CZelData::AddBulkOperations(std::vector<CModule::ModuleId> const& modules) {
   auto& bulk = m_owned->bulkModules;
@@ -155,8 +168,7 @@ bool CZelData::IsEqual(CZelData const& other) const {
       [&](auto const& row) { equal = equal && (this->*row.get)() == (other.*row.get)(); });
   ForEachTable([&](auto const& row) {
     if (!equal) return;
-    using Table = std::remove_cvref_t<decltype((this->*row.all)())>;
-    Table::Difference((this->*row.all)(), (other.*row.all)(),
+    ForEachDifference((this->*row.all)(), (other.*row.all)(),
                       [&](int, auto const* before, auto const* after) {
                         equal = equal && before != nullptr && after != nullptr && *before == *after;
                       });

@@ -5,12 +5,17 @@
 #include <vector>
 
 #include "store/export.h"
+#include "store/model/constraint_queries.h"
+#include "store/model/constraint_tables.h"
 #include "store/model/entity_queries.h"
 #include "store/model/entity_tables.h"
 #include "store/model/geometry_tables.h"
+#include "store/model/grid_load_tables.h"
 #include "store/model/grid_queries.h"
 #include "store/model/grid_tables.h"
+#include "store/model/load_tables.h"
 #include "store/model/member_tables.h"
+#include "store/model/property_tables.h"
 #include "store/numeric/box.h"
 #include "store/record/spec.h"
 #include "store/select/reference.h"
@@ -52,8 +57,13 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
                                      public MemberTables,
                                      public GeometryTables,
                                      public GridTables,
+                                     public LoadTables,
+                                     public GridLoadTables,
+                                     public ConstraintTables,
+                                     public PropertyTables,
                                      public EntityQueries,
-                                     public GridQueries {
+                                     public GridQueries,
+                                     public ConstraintQueries {
  public:
   using EntAt = Tarvex::EntAt;
 

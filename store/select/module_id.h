@@ -7,8 +7,9 @@ namespace Tarvex {
 /// change one.
 struct CModule {
   enum ModuleId : int {
-    None = -1,    ///< no table, or a table without a number of its own
-    Storey = -2,  ///< no table: storeys are numbered by the grid planes that are one
+    None = -1,         ///< no table, or a table without a number of its own
+    Storey = -2,       ///< no table: storeys are numbered by the grid planes that are one
+    SoilProfile = -3,  ///< soil profiles, whose table has no number
     Axis = 20,
     GridPlane = 23,
     GridSurface = 24,

@@ -32,8 +32,7 @@ std::string FieldList(Record const& after, Record const& before) {
 
 template <class Row>
 void TableDifferences(Row const& row, CZelData const& model, CZelData const& before, Lines& lines) {
-  using Table = tarvex_unordered_map<unsigned int, typename Row::Record>;
-  Table::Difference(
+  ForEachDifference(
       (before.*row.all)(), (model.*row.all)(), [&](int n, auto const* was, auto const* is) {
         if (was != nullptr && is != nullptr && *was == *is) return;
         auto const what = was == nullptr ? "came" : is == nullptr ? "went" : FieldList(*is, *was);

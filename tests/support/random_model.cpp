@@ -10,7 +10,9 @@
 #include "store/record/node.h"
 #include "tests/support/plain_list.h"
 #include "tests/support/random_grids.h"
+#include "tests/support/random_loads.h"
 #include "tests/support/random_members.h"
+#include "tests/support/random_properties.h"
 
 namespace Tarvex::Testing {
 namespace {
@@ -53,6 +55,8 @@ class Maker {
     StoreLists();
     StoreOneOffs();
     AddRandomGrids(m_model, m_random);
+    AddRandomLoads(m_model, m_random);
+    AddRandomProperties(m_model, m_random);
     return m_model;
   }
 

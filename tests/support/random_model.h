@@ -70,6 +70,10 @@ class Random {
 ///
 /// Grids, alignments, blocks, assemblies and views: one to four of each; see AddRandomGrids.
 ///
+/// Materials, properties, soil and spectra: one to three of each; see random_properties.h.
+///
+/// Loads and constraints: one to four a table; see AddRandomLoads.
+///
 /// Fields: about three in ten records have a given field changed. Texts hold characters of one to
 /// four UTF-8 bytes. All nodes that anything names exist, and so do the axes of nodes.
 CZelData RandomModel(std::uint32_t seed);

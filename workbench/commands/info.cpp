@@ -36,10 +36,10 @@ void Info(CZelData& model, Arguments const&, CommandResult& result) {
   ForEachTable([&](auto const& row) {
     auto const& table = (model.*row.all)();
     if (table.empty()) return;
-    tables[std::string(row.stem)] = {{"count", table.size()}, {"highest", table.Highest()}};
+    tables[std::string(row.stem)] = {{"count", table.size()}, {"highest", HighestOf(table)}};
     text += Padded(std::string(row.stem), kStemWidth) +
             PaddedLeft(std::to_string(table.size()), kNumberWidth) +
-            PaddedLeft(std::to_string(table.Highest()), kNumberWidth) + "\n";
+            PaddedLeft(std::to_string(HighestOf(table)), kNumberWidth) + "\n";
   });
   Json types = Json::object();
   for (auto const& [type, count] : CountTypes(model)) {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "store/record/element_shape.h"
+#include "store/record/mat_design.h"
 
 namespace Tarvex::Workbench {
 
@@ -47,6 +48,12 @@ struct EnumValues<ElementType> {
     for (int i = 0; i < kHighestElementType; ++i) values[static_cast<std::size_t>(i)] = i + 1;
     return values;
   }
+};
+
+/// One of the types of a material lies below 0.
+template <>
+struct EnumValues<MatType> {
+  static constexpr auto Get() { return std::array{-2, 0, 1, 2, 3, 4, 5, 6, 7, 8}; }
 };
 
 }  // namespace Tarvex::Workbench

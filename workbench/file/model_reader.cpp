@@ -77,9 +77,19 @@ class ModelReader {
     ++m_header;
   }
 
-  template <class Row>
-  void ReadTable(JsonValue& in, Row const& table) {
-    using Record = typename Row::Record;
+  /// The records of a positional table: their place is their number.
+  template <class Record>
+  void ReadTable(JsonValue& in, PositionalRow<Record> const& table) {
+    int number = 0;
+    in.ForEachItem([&](JsonValue& item) {
+      Record record;
+      Codec<Record>::Read(item, record);
+      (m_model.*table.set)(++number, record, SidMode::Keep);
+    });
+  }
+
+  template <class Record>
+  void ReadTable(JsonValue& in, TableRow<Record> const& table) {
     static constexpr auto kReaders = MakeRecordReaders<Record>();
     in.ForEachItem([&](JsonValue& item) {
       NumberedRecord<Record> record;

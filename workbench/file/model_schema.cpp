@@ -37,12 +37,14 @@ void AddHeader(Json& schema) {
   }
 }
 
-/// Schema of the records of a numbered table.
+/// Schema of the records of a table; in a positional one the place is the number.
 template <class Record>
-Json NumberedSchema() {
+Json RecordSchema(TableShape shape) {
   auto schema = EmptyObjectSchema<Json>();
-  schema["required"].push_back("n");
-  schema["properties"]["n"] = {{"type", "integer"}, {"minimum", 1}, {"maximum", kHighestNumber}};
+  if (shape == TableShape::Sparse) {
+    schema["required"].push_back("n");
+    schema["properties"]["n"] = {{"type", "integer"}, {"minimum", 1}, {"maximum", kHighestNumber}};
+  }
   AddFieldsToSchema<Json, Record>(schema);
   return schema;
 }
@@ -75,7 +77,7 @@ std::string ModelSchema() {
     using Record = typename std::remove_cvref_t<decltype(row)>::Record;
     std::string const stem(row.stem);
     schema["properties"][stem] = {{"type", "array"},
-                                  {"items", define(stem, NumberedSchema<Record>())}};
+                                  {"items", define(stem, RecordSchema<Record>(row.shape))}};
   });
   DropEmptyRequired(schema);
   return schema.dump(2) + "\n";

@@ -41,15 +41,17 @@ void WriteTable(std::string& out, Row const& row, CZelData const& model) {
   if (table.size() == 0) return;
   BeginEntry(out, row.stem);
   char const* separator = "[\n    ";
-  for (auto const& [number, record] : table) {
+  ForEachRecord(table, [&](int number, auto const& record) {
     out += separator;
     BeginObject(out, record);
-    WriteKey(out, "n");
-    AppendJsonNumber(out, static_cast<int>(number));
+    if (row.shape == TableShape::Sparse) {
+      WriteKey(out, "n");
+      AppendJsonNumber(out, number);
+    }
     WriteFields(out, record);
     out += '}';
     separator = ",\n    ";
-  }
+  });
   out += "\n  ]";
 }
 

@@ -1,5 +1,6 @@
 #include "workbench/file/references.h"
 
+#include <algorithm>
 #include <array>
 #include <ranges>
 
@@ -24,9 +25,9 @@ struct Target {
 class Targets {
  public:
   explicit Targets(CZelData const& model)
-      : m_model(model), m_storeys{"Storey", [&model](int n) {
-                                    return model.GridPlaneStorey(n) != 0;
-                                  }} {
+      : m_model(model),
+        m_storeys{"Storey", [&model](int n) { return model.GridPlaneStorey(n) != 0; }},
+        m_soilProfiles{"SoilProfile", [&model](int n) { return model.SoilProfileExist(n); }} {
     ForEachTable([&](auto const& row) {
       if (row.module == CModule::None) return;
       auto& target = m_targets[static_cast<std::size_t>(row.module)];
@@ -35,10 +36,14 @@ class Targets {
         return (model.*row.exist)(n) || before(n);
       };
     });
+    if (!HoldsProperties(model))
+      std::fill(m_targets.begin() + CModule::MatSteel, m_targets.begin() + CModule::RC2DProp + 1,
+                m_none);
   }
 
   Target const& Of(CModule::ModuleId module) const {
     if (module == CModule::Storey) return m_storeys;
+    if (module == CModule::SoilProfile) return m_soilProfiles;
     auto const i = static_cast<std::size_t>(module);
     return i < m_targets.size() ? m_targets[i] : m_none;
   }
@@ -52,9 +57,20 @@ class Targets {
  private:
   static constexpr std::size_t kModules = 512;  // above every number of a table
 
+  /// Whether a model has any material or property. Numbers of properties in one that is geometry
+  /// alone name what stands elsewhere.
+  static bool HoldsProperties(CZelData const& model) {
+    auto const modules = Modules();
+    return std::any_of(modules.begin(), modules.end(), [&](ModuleRow const& row) {
+      return row.module >= CModule::MatSteel && row.module <= CModule::RC2DProp &&
+             row.highest(model) > 0;
+    });
+  }
+
   CZelData const& m_model;
   std::array<Target, kModules> m_targets;
   Target m_storeys;
+  Target m_soilProfiles;
   Target m_none;
 };
 
@@ -218,8 +234,8 @@ void ForEachReference(CZelData const& model, Visit const& visit) {
   });
   ForEachTable([&](auto const& row) {
     emitter.site.table = row.stem;
-    for (auto const& [number, record] : (model.*row.all)())
-      VisitRecord(record, static_cast<int>(number), emitter);
+    ForEachRecord((model.*row.all)(),
+                  [&](int number, auto const& record) { VisitRecord(record, number, emitter); });
   });
 }
 

@@ -10,6 +10,7 @@
 #include "store/numeric/vbool6.h"
 #include "store/record/entity.h"
 #include "store/record/held_list.h"
+#include "store/record/link_type.h"
 #include "store/record/topo_list.h"
 #include "store/select/list_text.h"
 #include "workbench/file/enum_values.h"
@@ -164,6 +165,25 @@ struct Codec<E> {
  private:
   static bool IsKnown(int number) {
     return std::binary_search(kValues.begin(), kValues.end(), number);
+  }
+};
+
+/// The type of a link: any sum of its bits.
+template <>
+struct Codec<Data::LinkType> {
+  template <class Value>
+  static void Read(Value& in, Data::LinkType& value) {
+    value = static_cast<Data::LinkType>(in.Whole(0, Data::LinkTypes::kHighest));
+  }
+  static void Write(std::string& out, Data::LinkType value) {
+    auto const number = static_cast<int>(value);
+    if (number < 0 || number > Data::LinkTypes::kHighest)
+      throw CodecFault{"unknown value " + std::to_string(number)};
+    AppendJsonNumber(out, number);
+  }
+  template <class Json>
+  static Json Schema() {
+    return {{"type", "integer"}, {"minimum", 0}, {"maximum", Data::LinkTypes::kHighest}};
   }
 };
 

@@ -26,8 +26,7 @@ std::vector<FieldChange> FindFieldChanges(CZelData const& before, CZelData const
     AddFields(row.stem, 0, (before.*row.get)(), (after.*row.get)(), changes);
   });
   ForEachTable([&](auto const& row) {
-    using Table = std::remove_cvref_t<decltype((before.*row.all)())>;
-    Table::Difference((before.*row.all)(), (after.*row.all)(),
+    ForEachDifference((before.*row.all)(), (after.*row.all)(),
                       [&](int n, auto const* a, auto const* b) {
                         if (a != nullptr && b != nullptr) AddFields(row.stem, n, *a, *b, changes);
                       });

@@ -88,8 +88,8 @@ void CheckNumbers(std::string_view table, int number, Record const& record, Find
 void CheckAllNumbers(CZelData const& model, Findings& findings) {
   ForEachOneOff([&](auto const& row) { CheckNumbers(row.stem, 0, (model.*row.get)(), findings); });
   ForEachTable([&](auto const& row) {
-    for (auto const& [n, record] : (model.*row.all)())
-      CheckNumbers(row.stem, static_cast<int>(n), record, findings);
+    ForEachRecord((model.*row.all)(),
+                  [&](int n, auto const& record) { CheckNumbers(row.stem, n, record, findings); });
   });
 }
 

@@ -11,8 +11,7 @@ std::vector<TableChange> FindChanges(CZelData const& before, CZelData const& aft
   });
   ForEachTable([&](auto const& row) {
     TableChange change{row.stem, {}, {}, {}};
-    using Table = std::remove_cvref_t<decltype((before.*row.all)())>;
-    Table::Difference((before.*row.all)(), (after.*row.all)(),
+    ForEachDifference((before.*row.all)(), (after.*row.all)(),
                       [&](int n, auto const* a, auto const* b) {
                         if (a == nullptr)
                           change.added.push_back(n);

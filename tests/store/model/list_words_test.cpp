@@ -4,7 +4,11 @@
 
 #include "store/model/list_expansion.h"
 #include "store/model/zel_data.h"
+#include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/prop_2d.h"
+#include "store/record/prop_3d.h"
+#include "store/record/section.h"
 #include "tests/support/builders.h"
 
 namespace Tarvex::ListWordsTest {
@@ -164,9 +168,84 @@ TEST(ListWords, SelectSavedListsOfTheSameKind) {
   EXPECT_EQ(Select(model, SelElement, L"all not #5"), (Numbers{1, 2, 3, 5, 6, 7, 8, 9}));
 }
 
+/// The model with materials of number 6: a section, a 2D and a 3D property of analysis material 6,
+/// and beams 41 to 47, each of a section of its own and grade 6 of a type of its own.
+CZelData MadeModel() {
+  auto model = Model();
+  MatDesign const none;
+  model.SetSection(2, Data::CSection(L"", {Data::CSecComp(L"", 1, none), {L"", 6, none}}));
+  model.SetProp2D(1, Data::CProp2D(L"", 6, none, 0, Data::PropertyType2d::Shell,
+                                   Data::Surface2d::Middle, 1, {}));
+  model.SetProp3D(1, Data::CProp3D(L"", 6, none, 0, Data::CProp3D::PropType::Solid));
+  MatType const types[] = {MatType::Steel, MatType::Concrete, MatType::Aluminium, MatType::Glass,
+                           MatType::Frp,   MatType::Timber,   MatType::Fabric};
+  for (int i = 0; i < 7; ++i) {
+    model.SetSection(31 + i, Data::CSection(L"", {Data::CSecComp(L"", 0, {types[i], 6})}));
+    AddElement(model, 41 + i, ElementType::Beam, {1, 5}, 31 + i, 1);
+  }
+  return model;
+}
+
+TEST(ListWords, SelectByTheMaterialOfTheProperty) {
+  auto const model = MadeModel();
+  auto const elements = [&](CString const& text) { return Select(model, SelElement, text); };
+  EXPECT_EQ(elements(L"M6"), (Numbers{2, 4, 5, 20}));  // a panel has a 2D property
+  EXPECT_EQ(elements(L"M1"), Numbers{2});              // by its other component
+  EXPECT_EQ(elements(L"MS6"), Numbers{41});
+  EXPECT_EQ(elements(L"MC6"), Numbers{42});
+  EXPECT_EQ(elements(L"MA6"), Numbers{43});
+  EXPECT_EQ(elements(L"MG6"), Numbers{44});
+  EXPECT_EQ(elements(L"MP6"), Numbers{45});
+  EXPECT_EQ(elements(L"MT6"), Numbers{46});
+  EXPECT_EQ(elements(L"MF6"), Numbers{47});
+  EXPECT_EQ(elements(L"MS5 MC1 M7"), Numbers());
+  EXPECT_EQ(Select(model, SelNode, L"M6 MS6"), Numbers());  // nodes have none
+}
+
+TEST(ListWords, SelectByTheGradesOfPlatesAndSolids) {
+  auto model = Model();
+  MatDesign const timber(MatType::Timber, 3);
+  model.SetProp2D(1, Data::CProp2D(L"", 0, timber, 0, Data::PropertyType2d::Shell,
+                                   Data::Surface2d::Middle, 1, {}));
+  EXPECT_EQ(Select(model, SelElement, L"MT3"), (Numbers{4, 20}));
+  model.SetProp3D(1, Data::CProp3D(L"", 0, timber, 0, Data::CProp3D::PropType::Solid));
+  EXPECT_EQ(Select(model, SelElement, L"MT3"), (Numbers{4, 5, 20}));
+}
+
+TEST(ListWords, SelectMembersByTheMaterialOfTheirProperty) {
+  auto model = MadeModel();
+  Data::CMember beam(MembType::Beam, 1, 2);
+  beam.SetTopo(CString(L"1 2"));
+  model.SetMember(3, beam);
+  Data::CMember slab(MembType::Slab, 1, 1);
+  slab.SetTopo(CString(L"1 2 3"));
+  model.SetMember(4, slab);
+  EXPECT_EQ(Select(model, SelMember, L"M1"), Numbers{3});
+  EXPECT_EQ(Select(model, SelMember, L"M6"), (Numbers{3, 4}));
+}
+
+TEST(ListWords, FollowAChangeOfWhatAPropertyIsMadeOf) {
+  auto model = MadeModel();
+  CEntList const list(SelElement, L"M6");
+  auto const selected = [&] {
+    auto const set = Util::MakeSet(list, model, true);
+    return Numbers{set.begin(), set.end()};
+  };
+  EXPECT_EQ(selected(), (Numbers{2, 4, 5, 20}));
+  auto section = model.Section(2);
+  section.SetMaterialAnalysis(1, 9);
+  model.SetSection(2, section);
+  EXPECT_EQ(selected(), (Numbers{4, 5, 20}));
+  auto plate = model.Prop2D(1);
+  plate.SetMaterialAnalysis(9);
+  model.SetProp2D(1, plate);
+  EXPECT_EQ(selected(), Numbers{5});
+  model.BlankProp3D(1, 1);
+  EXPECT_EQ(selected(), Numbers());
+}
+
 TEST(ListWords, SelectNothingThatNoTableHolds) {
-  for (auto const* text : {L"M1", L"MS1", L"MC1", L"MA1", L"MG1", L"MP1", L"MT1", L"MF1", L"DMR1",
-                           L"DS1", L"DSR1", L"DCB1", L"DCS1"})
+  for (auto const* text : {L"DMR1", L"DS1", L"DSR1", L"DCB1", L"DCS1"})
     EXPECT_EQ(Elements(text), Numbers()) << CString(text).ToUtf8();
 }
 

@@ -58,7 +58,8 @@ TEST(RandomModelProperty, FillsEveryTableAndEveryField) {
       std::string const stem(row.stem);
       if (!(model.*row.all)().empty()) left.erase(stem);
       typename std::remove_cvref_t<decltype(row)>::Record const original{};
-      for (auto const& [n, record] : (model.*row.all)()) DropChanged(record, original, stem, left);
+      ForEachRecord((model.*row.all)(),
+                    [&](int, auto const& record) { DropChanged(record, original, stem, left); });
     });
     ForEachOneOff([&](auto const& row) {
       typename std::remove_cvref_t<decltype(row)>::Record const original{};

@@ -17,27 +17,11 @@
 #include "store/record/node.h"
 #include "store/record/polyline.h"
 #include "store/record/views.h"
+#include "tests/store/model/property_rows.h"
+#include "tests/store/model/table_row.h"
 #include "tests/support/builders.h"
 
 namespace Tarvex::RegistryTest {
-
-template <class R>
-using WholeTable = tarvex_unordered_map<unsigned int, R>;
-
-/// One table: its operations by name, and two records that differ.
-template <class R>
-struct Row {
-  std::string stem;
-  int module;
-  R a;
-  R b;
-  bool (*exist)(CZelData const&, int);
-  R const& (*get)(CZelData const&, int);
-  WholeTable<R> const& (*all)(CZelData const&);
-  int (*highest)(CZelData const&);
-  void (*set)(CZelData&, int, R const&, SidMode);
-  void (*blank)(CZelData&, int, int);
-};
 
 using Data::CAlignment;
 using Data::CAssembly;
@@ -56,13 +40,8 @@ using Data::CPolyline;
 using Data::CReplica;
 using Data::LoadPanel;
 
-template <class R>
-R WithSid(R record) {
-  record.SetSid(L"id");
-  return record;
-}
-
-inline auto Rows() {
+/// Entities, grids, groups and views.
+inline auto EntityRows() {
   return std::tuple{
       Row<CNode>{"Node", 80, WithSid(CNode({1, 2, 3}, 0, Vbool6())), CNode({4, 5, 6}, 0, Vbool6()),
                  [](CZelData const& m, int n) { return m.NodeExist(n); },
@@ -187,5 +166,7 @@ inline auto Rows() {
                    [](CZelData& m, int first, int count) { m.BlankOpView(first, count); }},
   };
 }
+
+inline auto Rows() { return std::tuple_cat(EntityRows(), PropertyRows()); }
 
 }  // namespace Tarvex::RegistryTest

@@ -19,9 +19,13 @@ using Testing::Random;
 CZelData Rebuilt(CZelData const& model) {
   CZelData copy;
   ForEachTable([&](auto const& row) {
+    // Downwards where there may be holes; a positional table only grows at its end.
     auto const& table = (model.*row.all)();
-    for (int n = table.Highest(); n != 0; n = table.Previous(n))
-      (copy.*row.set)(n, *table.Find(n), SidMode::Keep);
+    bool const down = row.shape == TableShape::Sparse;
+    std::vector<int> numbers;
+    ForEachRecord(table, [&](int n, auto const&) { numbers.push_back(n); });
+    if (down) std::reverse(numbers.begin(), numbers.end());
+    for (int const n : numbers) (copy.*row.set)(n, *FindRecord(table, n), SidMode::Keep);
   });
   ForEachOneOff([&](auto const& row) { (copy.*row.set)((model.*row.get)()); });
   return copy;
@@ -55,9 +59,9 @@ std::vector<std::string> PlainDifference(CZelData const& model, CZelData const& 
   ForEachTable([&](auto const& row) {
     auto const& was = (before.*row.all)();
     auto const& is = (model.*row.all)();
-    for (int n = 1; n <= std::max(was.Highest(), is.Highest()); ++n) {
-      auto const* a = was.Find(n);
-      auto const* b = is.Find(n);
+    for (int n = 1; n <= std::max(HighestOf(was), HighestOf(is)); ++n) {
+      auto const* a = FindRecord(was, n);
+      auto const* b = FindRecord(is, n);
       bool const same = (a == nullptr) == (b == nullptr) && (a == nullptr || *a == *b);
       if (!same) lines.push_back(std::string(row.stem) + " " + std::to_string(n));
     }

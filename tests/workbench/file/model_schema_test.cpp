@@ -33,9 +33,76 @@ TEST(ModelSchema, HasOneEntryATableAndOneOffBehindTheHeader) {
   std::vector<std::string> const header{"$schema", "format", "version", "generator", "units"};
   ASSERT_GE(keys.size(), header.size());
   EXPECT_TRUE(std::equal(header.begin(), header.end(), keys.begin()));
-  for (auto const* key :
-       {"Spec", "Defaults", "Node", "Elem", "LoadPanel", "Axis", "GridPlane", "GridSurface",
-        "GridLine", "Polyline", "Alignment", "List", "Block", "Assembly", "GrView", "OpView"})
+  for (auto const* key : {"Spec",
+                          "Defaults",
+                          "Node",
+                          "Elem",
+                          "LoadPanel",
+                          "Axis",
+                          "GridPlane",
+                          "GridSurface",
+                          "GridLine",
+                          "Polyline",
+                          "Alignment",
+                          "List",
+                          "Block",
+                          "Assembly",
+                          "GrView",
+                          "OpView",
+                          "MatSteel",
+                          "MatConcrete",
+                          "MatFrp",
+                          "MatAluminium",
+                          "MatTimber",
+                          "MatGlass",
+                          "MatFabric",
+                          "MatRebar",
+                          "MatAnal",
+                          "MatCurve",
+                          "MatMatrix",
+                          "Section",
+                          "SpringProp",
+                          "MassProp",
+                          "Prop2D",
+                          "Prop3D",
+                          "LinkProp",
+                          "DamperProp",
+                          "CableProp",
+                          "SpacerProp",
+                          "ForceDensity1D",
+                          "SoapStress1D",
+                          "ForceDensity2D",
+                          "SoapStress2D",
+                          "RC2DProp",
+                          "SoilZone",
+                          "SoilProfile",
+                          "ResSpectrum",
+                          "NodeLoad",
+                          "AppliedDisplacement",
+                          "Settlement",
+                          "BeamLoad",
+                          "AxialLoad",
+                          "BeamDist",
+                          "BeamThermalLoad",
+                          "FaceLoad",
+                          "EdgeLoad",
+                          "InPlaneLoad",
+                          "FaceThermalLoad",
+                          "BodyFaceLoad",
+                          "BodyThermalLoad",
+                          "GridPointLoad",
+                          "GridLineLoad",
+                          "GridAreaLoad",
+                          "GravityLoad",
+                          "GenRest",
+                          "Rigid",
+                          "Joint",
+                          "ConstraintEqn",
+                          "TiedInterface",
+                          "RaftInteraction",
+                          "PileInteraction",
+                          "InfluenceNode",
+                          "InfluenceBeam"})
     EXPECT_EQ(std::count(keys.begin(), keys.end(), key), 1) << key;
 }
 
@@ -46,6 +113,8 @@ TEST(ModelSchema, TellsWhatIsRequired) {
   EXPECT_EQ(schema["definitions"]["Elem"]["required"], Json({"n", "type", "topology"}));
   EXPECT_EQ(schema["definitions"]["LoadPanel"]["required"], Json({"n", "topology"}));
   EXPECT_FALSE(schema["definitions"]["Spec"].contains("required"));
+  EXPECT_FALSE(schema["definitions"]["NodeLoad"].contains("required"));
+  EXPECT_FALSE(schema["definitions"]["NodeLoad"]["properties"].contains("n"));
 }
 
 TEST(ModelSchema, TellsListsByTheirTextWhereTheirKindIsFixed) {
