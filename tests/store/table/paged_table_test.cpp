@@ -259,8 +259,14 @@ TEST(PagedTable, DifferenceVisitsWhatCameWentAndChanged) {
 
 TEST(PagedTable, DifferenceOfACopyVisitsNothing) {
   auto const table = Of({1, 5, 9, 33});
-  auto const copy = table;
-  Small::Difference(table, copy, [](int n, auto, auto) { ADD_FAILURE() << n; });
+  auto copy = table;
+  int visits = 0;
+  auto const count = [&](int, auto, auto) { ++visits; };
+  Small::Difference(table, copy, count);
+  EXPECT_EQ(visits, 0);
+  copy.Remove(33, 1);
+  Small::Difference(table, copy, count);
+  EXPECT_EQ(visits, 1);
 }
 
 }  // namespace
