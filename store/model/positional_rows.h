@@ -16,7 +16,7 @@
 
 namespace Tarvex::Registry {
 
-inline constexpr std::tuple kPositionalTables{
+inline constexpr auto kPositionalTables = MakeRows(
     PositionalRow<Data::CNodeLoad>{
         CModule::NodeLoad, "NodeLoad", TableShape::Positional, RemovalForm::Delete,
         &CZelData::NodeLoadExist, &CZelData::NodeLoad, &CZelData::NodeLoad,
@@ -131,7 +131,6 @@ inline constexpr std::tuple kPositionalTables{
         CModule::None, "InfluenceBeam",
         TableShape::Positional, RemovalForm::Delete, &CZelData::InfluenceBeamExist,
         &CZelData::InfluenceBeam, &CZelData::InfluenceBeam, &CZelData::HighestInfluenceBeam,
-        &CZelData::SetInfluenceBeam, &CZelData::DeleteInfluenceBeam},
-};
+        &CZelData::SetInfluenceBeam, &CZelData::DeleteInfluenceBeam});
 
 }  // namespace Tarvex::Registry

@@ -11,12 +11,12 @@ template <std::size_t I>
 constexpr ModuleRow Erase() {
   constexpr auto kIndex = I;
   return {
-      std::get<I>(Registry::kTables).module,
+      GetRow<I>(Registry::kTables).module, GetRow<I>(Registry::kTables).stem,
       [](CZelData const& model, int n) {
-        return (model.*std::get<kIndex>(Registry::kTables).exist)(n);
+        return (model.*GetRow<kIndex>(Registry::kTables).exist)(n);
       },
-      [](CZelData const& model) { return (model.*std::get<kIndex>(Registry::kTables).highest)(); },
-      [](CZelData& model) { (model.*std::get<kIndex>(Registry::kTables).remove)(1, kAll); }};
+      [](CZelData const& model) { return (model.*GetRow<kIndex>(Registry::kTables).highest)(); },
+      [](CZelData& model) { (model.*GetRow<kIndex>(Registry::kTables).remove)(1, kAll); }};
 }
 
 template <std::size_t... I>
@@ -24,7 +24,8 @@ constexpr std::array<ModuleRow, sizeof...(I)> EraseAll(std::index_sequence<I...>
   return {Erase<I>()...};
 }
 
-constexpr auto kTableCount = std::tuple_size_v<decltype(Registry::kTables)>;
+constexpr auto kTableCount = Registry::kTables.kSize;
+constexpr auto kTableRows = EraseAll(std::make_index_sequence<kTableCount>());
 
 struct ModuleRows {
   std::array<ModuleRow, kTableCount> rows{};
@@ -41,7 +42,7 @@ struct ModuleRows {
 /// elements count as existing.
 constexpr ModuleRows MakeModules() {
   ModuleRows modules;
-  for (auto row : EraseAll(std::make_index_sequence<kTableCount>())) {
+  for (auto row : kTableRows) {
     if (row.module == CModule::None || modules.Knows(row.module)) continue;
     if (row.module == CModule::Elem)
       row.clear = [](CZelData& model) { model.BlankVariantElement(1, kAll); };
@@ -53,6 +54,8 @@ constexpr ModuleRows MakeModules() {
 constexpr auto kModules = MakeModules();
 
 }  // namespace
+
+std::span<ModuleRow const> Tables() { return kTableRows; }
 
 std::span<ModuleRow const> Modules() { return std::span(kModules.rows).first(kModules.size); }
 

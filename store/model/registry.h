@@ -7,7 +7,6 @@
 
 #include <span>
 #include <string_view>
-#include <tuple>
 
 #include "store/export.h"
 #include "store/model/positional_rows.h"
@@ -53,12 +52,11 @@ struct OneOffRow {
 
 namespace Registry {
 
-inline constexpr std::tuple kOneOffs{
-    OneOffRow<Data::CSpec>{"Spec", &CZelData::Spec, &CZelData::SetSpec},
-    OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults},
-};
+inline constexpr auto kOneOffs =
+    MakeRows(OneOffRow<Data::CSpec>{"Spec", &CZelData::Spec, &CZelData::SetSpec},
+             OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults});
 
-inline constexpr std::tuple kSparseTables{
+inline constexpr auto kSparseTables = MakeRows(
     TableRow<Data::CNode>{CModule::Node, "Node", TableShape::Sparse, RemovalForm::Blank,
                           &CZelData::NodeExist, &CZelData::Node, &CZelData::Node,
                           &CZelData::HighestNode, &CZelData::SetNode, &CZelData::BlankNode},
@@ -223,34 +221,36 @@ inline constexpr std::tuple kSparseTables{
     TableRow<Data::CResSpectrum>{
         CModule::None, "ResSpectrum", TableShape::Sparse, RemovalForm::Blank,
         &CZelData::ResSpectrumExist, &CZelData::ResSpectrum, &CZelData::ResSpectrum,
-        &CZelData::HighestResSpectrum, &CZelData::SetResSpectrum, &CZelData::BlankResSpectrum},
-};
+        &CZelData::HighestResSpectrum, &CZelData::SetResSpectrum, &CZelData::BlankResSpectrum});
 
 /// All tables.
-inline constexpr auto kTables = std::tuple_cat(kSparseTables, kPositionalTables);
+inline constexpr auto kTables = JoinRows(kSparseTables, kPositionalTables);
 
 }  // namespace Registry
 
 /// Calls visit(row) for each table, in the order of the registry.
 template <class Visit>
 void ForEachTable(Visit&& visit) {
-  std::apply([&](auto const&... rows) { (visit(rows), ...); }, Registry::kTables);
+  Registry::kTables.ForEach(visit);
 }
 
 /// Calls visit(row) for each one-off record.
 template <class Visit>
 void ForEachOneOff(Visit&& visit) {
-  std::apply([&](auto const&... rows) { (visit(rows), ...); }, Registry::kOneOffs);
+  Registry::kOneOffs.ForEach(visit);
 }
 
-/// Access to the records of a module without knowing their class.
+/// Access to the records of a table or module without knowing their class.
 struct ModuleRow {
   CModule::ModuleId module;
+  std::string_view stem;  ///< of the table, for a module of its first one
   bool (*exist)(CZelData const&, int);
   int (*highest)(CZelData const&);
   void (*clear)(CZelData&);
 };
 
+/// The rows of all tables.
+TARVEX_STORE_EXPORT std::span<ModuleRow const> Tables();
 /// The rows of all modules that have a table; a table without a module number has none.
 TARVEX_STORE_EXPORT std::span<ModuleRow const> Modules();
 /// The row of a module, null when no table has it.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string_view>
-#include <tuple>
 #include <vector>
 
 #include "store/model/zel_data.h"

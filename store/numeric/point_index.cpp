@@ -89,8 +89,9 @@ void PointIndex::Insert(int number, Vec3<double> const& point) {
 }
 
 void PointIndex::Erase(int number, Vec3<double> const& point) {
+  if (!IsFinite(point)) return;  // was never put in, and has no cell
   auto const found = m_cells.find(CellOf(point));
-  if (!IsFinite(point) || found == m_cells.end()) return;
+  if (found == m_cells.end()) return;
   auto& entries = found->second;
   auto const entry = std::find_if(entries.begin(), entries.end(),
                                   [&](Entry const& e) { return e.number == number; });

@@ -16,8 +16,8 @@ struct AlignmentItem {
 
   friend bool operator==(AlignmentItem const& a, AlignmentItem const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<AlignmentItem>("chainage", &AlignmentItem::chainage),
-                           Plain<AlignmentItem>("curvature", &AlignmentItem::curvature));
+    return MakeRows(Plain<AlignmentItem>("chainage", &AlignmentItem::chainage),
+                    Plain<AlignmentItem>("curvature", &AlignmentItem::curvature));
   }
 };
 
@@ -57,10 +57,10 @@ class TARVEX_STORE_EXPORT CAlignment : public NamedEntity {
   friend bool operator==(CAlignment const& a, CAlignment const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CAlignment>(),
-                          std::make_tuple(Reference<CAlignment, CModule::GridSurface>(
-                                              "surface", &CAlignment::m_surface),
-                                          Plain<CAlignment>("items", &CAlignment::m_items)));
+    return JoinRows(
+        NamedFields<CAlignment>(),
+        MakeRows(Reference<CAlignment, CModule::GridSurface>("surface", &CAlignment::m_surface),
+                 Plain<CAlignment>("items", &CAlignment::m_items)));
   }
 
  private:

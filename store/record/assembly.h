@@ -49,15 +49,15 @@ class TARVEX_STORE_EXPORT CAssembly : public NamedEntity {
   friend bool operator==(CAssembly const& a, CAssembly const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CAssembly>(),
-        std::make_tuple(Plain<CAssembly>("entities", &CAssembly::m_entities),
-                        Reference<CAssembly, CModule::Node>("topology", &CAssembly::m_topology),
-                        Plain<CAssembly>("intTopo", &CAssembly::m_intTopo),
-                        Plain<CAssembly>("definition", &CAssembly::definition),
-                        Reference<CAssembly, CModule::Storey>("storey", &CAssembly::m_storey),
-                        Plain<CAssembly>("spacing", &CAssembly::m_spacing),
-                        Plain<CAssembly>("cutSpacing", &CAssembly::cutSpacing)));
+        MakeRows(Plain<CAssembly>("entities", &CAssembly::m_entities),
+                 Reference<CAssembly, CModule::Node>("topology", &CAssembly::m_topology),
+                 Plain<CAssembly>("intTopo", &CAssembly::m_intTopo),
+                 Plain<CAssembly>("definition", &CAssembly::definition),
+                 Reference<CAssembly, CModule::Storey>("storey", &CAssembly::m_storey),
+                 Plain<CAssembly>("spacing", &CAssembly::m_spacing),
+                 Plain<CAssembly>("cutSpacing", &CAssembly::cutSpacing)));
   }
 
  private:

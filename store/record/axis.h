@@ -37,11 +37,10 @@ class TARVEX_STORE_EXPORT CAxis : public NamedEntity {
   friend bool operator==(CAxis const& a, CAxis const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CAxis>(),
-        std::make_tuple(Plain<CAxis>("type", &CAxis::m_type),
-                        Plain<CAxis>("origin", &CAxis::m_origin), Plain<CAxis>("x", &CAxis::m_x),
-                        Plain<CAxis>("xy", &CAxis::m_xy)));
+        MakeRows(Plain<CAxis>("type", &CAxis::m_type), Plain<CAxis>("origin", &CAxis::m_origin),
+                 Plain<CAxis>("x", &CAxis::m_x), Plain<CAxis>("xy", &CAxis::m_xy)));
   }
 
  private:

@@ -40,14 +40,13 @@ class CBeamLoad : public CElementLoadBase {
   friend bool operator==(CBeamLoad const& a, CBeamLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CBeamLoad>(),
-        std::make_tuple(Plain<CBeamLoad>("type", &CBeamLoad::m_type),
-                        Reference<CBeamLoad, CModule::Axis>("axis", &CBeamLoad::m_axis),
-                        Plain<CBeamLoad>("direction", &CBeamLoad::m_direction),
-                        Plain<CBeamLoad>("projected", &CBeamLoad::m_projected),
-                        Plain<CBeamLoad>("pos", &CBeamLoad::m_positions),
-                        Plain<CBeamLoad>("value", &CBeamLoad::m_values)));
+    return JoinRows(ElementLoadFields<CBeamLoad>(),
+                    MakeRows(Plain<CBeamLoad>("type", &CBeamLoad::m_type),
+                             Reference<CBeamLoad, CModule::Axis>("axis", &CBeamLoad::m_axis),
+                             Plain<CBeamLoad>("direction", &CBeamLoad::m_direction),
+                             Plain<CBeamLoad>("projected", &CBeamLoad::m_projected),
+                             Plain<CBeamLoad>("pos", &CBeamLoad::m_positions),
+                             Plain<CBeamLoad>("value", &CBeamLoad::m_values)));
   }
 
  private:
@@ -75,10 +74,10 @@ class CBeamDist : public CElementLoadBase {
   friend bool operator==(CBeamDist const& a, CBeamDist const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(ElementLoadFields<CBeamDist>(),
-                          std::make_tuple(Plain<CBeamDist>("pos", &CBeamDist::m_position),
-                                          Plain<CBeamDist>("direction", &CBeamDist::m_direction),
-                                          Plain<CBeamDist>("value", &CBeamDist::m_value)));
+    return JoinRows(ElementLoadFields<CBeamDist>(),
+                    MakeRows(Plain<CBeamDist>("pos", &CBeamDist::m_position),
+                             Plain<CBeamDist>("direction", &CBeamDist::m_direction),
+                             Plain<CBeamDist>("value", &CBeamDist::m_value)));
   }
 
  private:
@@ -97,8 +96,8 @@ class CAxialLoad : public CElementLoadBase {
   friend bool operator==(CAxialLoad const& a, CAxialLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(ElementLoadFields<CAxialLoad>(),
-                          std::make_tuple(Plain<CAxialLoad>("value", &CAxialLoad::m_value)));
+    return JoinRows(ElementLoadFields<CAxialLoad>(),
+                    MakeRows(Plain<CAxialLoad>("value", &CAxialLoad::m_value)));
   }
 
  private:
@@ -126,10 +125,9 @@ class CBeamThermalLoad : public CElementLoadBase {
   }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CBeamThermalLoad>(),
-        std::make_tuple(Plain<CBeamThermalLoad>("type", &CBeamThermalLoad::m_type),
-                        Plain<CBeamThermalLoad>("value", &CBeamThermalLoad::m_values)));
+    return JoinRows(ElementLoadFields<CBeamThermalLoad>(),
+                    MakeRows(Plain<CBeamThermalLoad>("type", &CBeamThermalLoad::m_type),
+                             Plain<CBeamThermalLoad>("value", &CBeamThermalLoad::m_values)));
   }
 
  private:

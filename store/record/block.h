@@ -14,8 +14,8 @@ struct ReplicaStep {
 
   friend bool operator==(ReplicaStep const& a, ReplicaStep const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<ReplicaStep>("count", &ReplicaStep::count),
-                           Plain<ReplicaStep>("offset", &ReplicaStep::offset));
+    return MakeRows(Plain<ReplicaStep>("count", &ReplicaStep::count),
+                    Plain<ReplicaStep>("offset", &ReplicaStep::offset));
   }
 };
 
@@ -37,9 +37,7 @@ class TARVEX_STORE_EXPORT CReplica {
   CString Fault() const;
 
   friend bool operator==(CReplica const& a, CReplica const& b) { return Same(a, b); }
-  static constexpr auto Fields() {
-    return std::make_tuple(Plain<CReplica>("steps", &CReplica::m_steps));
-  }
+  static constexpr auto Fields() { return MakeRows(Plain<CReplica>("steps", &CReplica::m_steps)); }
 
  private:
   std::vector<ReplicaStep> m_steps;
@@ -60,10 +58,9 @@ class CBlock : public NamedEntity {
   friend bool operator==(CBlock const& a, CBlock const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CBlock>(),
-        std::make_tuple(Reference<CBlock, CModule::Member>("members", &CBlock::m_members),
-                        Plain<CBlock>("replica", &CBlock::m_replica)));
+    return JoinRows(NamedFields<CBlock>(),
+                    MakeRows(Reference<CBlock, CModule::Member>("members", &CBlock::m_members),
+                             Plain<CBlock>("replica", &CBlock::m_replica)));
   }
 
  private:

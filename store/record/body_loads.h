@@ -35,13 +35,13 @@ class CBodyFaceLoad : public CElementLoadBase {
   friend bool operator==(CBodyFaceLoad const& a, CBodyFaceLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         ElementLoadFields<CBodyFaceLoad>(),
-        std::make_tuple(Plain<CBodyFaceLoad>("type", &CBodyFaceLoad::m_type),
-                        Reference<CBodyFaceLoad, CModule::Axis>("axis", &CBodyFaceLoad::m_axis),
-                        Plain<CBodyFaceLoad>("direction", &CBodyFaceLoad::m_direction),
-                        Plain<CBodyFaceLoad>("face", &CBodyFaceLoad::m_face),
-                        Plain<CBodyFaceLoad>("value", &CBodyFaceLoad::m_values)));
+        MakeRows(Plain<CBodyFaceLoad>("type", &CBodyFaceLoad::m_type),
+                 Reference<CBodyFaceLoad, CModule::Axis>("axis", &CBodyFaceLoad::m_axis),
+                 Plain<CBodyFaceLoad>("direction", &CBodyFaceLoad::m_direction),
+                 Plain<CBodyFaceLoad>("face", &CBodyFaceLoad::m_face),
+                 Plain<CBodyFaceLoad>("value", &CBodyFaceLoad::m_values)));
   }
 
  private:
@@ -72,10 +72,9 @@ class CBodyThermalLoad : public CElementLoadBase {
   }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CBodyThermalLoad>(),
-        std::make_tuple(Plain<CBodyThermalLoad>("type", &CBodyThermalLoad::m_type),
-                        Plain<CBodyThermalLoad>("value", &CBodyThermalLoad::m_values)));
+    return JoinRows(ElementLoadFields<CBodyThermalLoad>(),
+                    MakeRows(Plain<CBodyThermalLoad>("type", &CBodyThermalLoad::m_type),
+                             Plain<CBodyThermalLoad>("value", &CBodyThermalLoad::m_values)));
   }
 
  private:
@@ -97,10 +96,9 @@ class CGravityLoad : public CElementLoadBase {
   friend bool operator==(CGravityLoad const& a, CGravityLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CGravityLoad>(),
-        std::make_tuple(Plain<CGravityLoad>("loadedNodes", &CGravityLoad::m_nodes),
-                        Plain<CGravityLoad>("factor", &CGravityLoad::m_factor)));
+    return JoinRows(ElementLoadFields<CGravityLoad>(),
+                    MakeRows(Plain<CGravityLoad>("loadedNodes", &CGravityLoad::m_nodes),
+                             Plain<CGravityLoad>("factor", &CGravityLoad::m_factor)));
   }
 
  private:

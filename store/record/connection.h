@@ -3,7 +3,6 @@
 
 #include <array>
 #include <memory>
-#include <tuple>
 #include <vector>
 
 #include "store/export.h"
@@ -29,8 +28,8 @@ class CElemConnect {
 
   friend bool operator==(CElemConnect const& a, CElemConnect const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<CElemConnect>("release", &CElemConnect::m_release),
-                           Plain<CElemConnect>("stiffness", &CElemConnect::m_stiffness));
+    return MakeRows(Plain<CElemConnect>("release", &CElemConnect::m_release),
+                    Plain<CElemConnect>("stiffness", &CElemConnect::m_stiffness));
   }
 
  private:

@@ -22,7 +22,7 @@ class CStagedEntity : public NamedEntity {
   /// The field of the base, which comes last.
   template <class Record>
   static constexpr auto StageField() {
-    return std::make_tuple(Reference<Record, CModule::AnalStage>("stage", &CStagedEntity::m_stage));
+    return MakeRows(Reference<Record, CModule::AnalStage>("stage", &CStagedEntity::m_stage));
   }
 
  private:

@@ -41,13 +41,12 @@ class CConstraintEqn : public CStagedEntity {
   friend bool operator==(CConstraintEqn const& a, CConstraintEqn const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CConstraintEqn>(),
-        std::make_tuple(Reference<CConstraintEqn, CModule::Node>(
-                            "constrainedNode", &CConstraintEqn::m_constrainedNode),
-                        Plain<CConstraintEqn>("dir", &CConstraintEqn::m_direction),
-                        Plain<CConstraintEqn>("terms", &CConstraintEqn::m_terms)),
-        StageField<CConstraintEqn>());
+    return JoinRows(NamedFields<CConstraintEqn>(),
+                    MakeRows(Reference<CConstraintEqn, CModule::Node>(
+                                 "constrainedNode", &CConstraintEqn::m_constrainedNode),
+                             Plain<CConstraintEqn>("dir", &CConstraintEqn::m_direction),
+                             Plain<CConstraintEqn>("terms", &CConstraintEqn::m_terms)),
+                    StageField<CConstraintEqn>());
   }
 
  private:

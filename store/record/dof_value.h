@@ -1,8 +1,6 @@
 // A degree of freedom of a node with a factor.
 #pragma once
 
-#include <tuple>
-
 #include "store/numeric/direction.h"
 #include "store/record/field.h"
 
@@ -22,9 +20,9 @@ class CDofValue {
   friend bool operator==(CDofValue const& a, CDofValue const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::make_tuple(Reference<CDofValue, CModule::Node>("node", &CDofValue::m_node),
-                           Plain<CDofValue>("direction", &CDofValue::m_direction),
-                           Plain<CDofValue>("value", &CDofValue::m_value));
+    return MakeRows(Reference<CDofValue, CModule::Node>("node", &CDofValue::m_node),
+                    Plain<CDofValue>("direction", &CDofValue::m_direction),
+                    Plain<CDofValue>("value", &CDofValue::m_value));
   }
 
  private:

@@ -88,9 +88,9 @@ class TARVEX_STORE_EXPORT CElement : public NamedEntity {
   friend bool operator==(CElement const& a, CElement const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CElement>(),
-        std::make_tuple(
+        MakeRows(
             Required<CElement>("type", &CElement::m_type),
             Plain<CElement>("group", &CElement::m_group),
             Field<CElement, int>{"property", &CElement::m_property, false,

@@ -108,8 +108,8 @@ class TARVEX_STORE_EXPORT CEntList : public NamedEntity {
 
  public:
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CEntList>(),
-                          std::make_tuple(KindField<CEntList>(), TextField<CEntList>()));
+    return JoinRows(NamedFields<CEntList>(),
+                    MakeRows(KindField<CEntList>(), TextField<CEntList>()));
   }
 
  private:

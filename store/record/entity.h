@@ -1,8 +1,6 @@
 // Common bases of the records.
 #pragma once
 
-#include <tuple>
-
 #include "store/record/field.h"
 #include "store/text/cstring.h"
 
@@ -74,8 +72,8 @@ class NamedEntity : public BaseEntity {
   /// Fields of the bases, which come first in every record.
   template <class Record>
   static constexpr auto NamedFields() {
-    return std::make_tuple(Plain<Record>("name", &NamedEntity::m_name), SidField<Record>(),
-                           Plain<Record>("colour", &NamedEntity::m_colour));
+    return MakeRows(Plain<Record>("name", &NamedEntity::m_name), SidField<Record>(),
+                    Plain<Record>("colour", &NamedEntity::m_colour));
   }
 
  private:

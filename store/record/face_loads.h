@@ -37,13 +37,12 @@ class CFaceLoadBase : public CElementLoadBase {
   /// Fields of the bases, which come first.
   template <class Record>
   static constexpr auto FaceLoadFields() {
-    return std::tuple_cat(
-        ElementLoadFields<Record>(),
-        std::make_tuple(Plain<Record>("type", &CFaceLoadBase::m_type),
-                        Reference<Record, CModule::Axis>("axis", &CFaceLoadBase::m_axis),
-                        Plain<Record>("direction", &CFaceLoadBase::m_direction),
-                        Plain<Record>("projected", &CFaceLoadBase::m_projected),
-                        Plain<Record>("position", &CFaceLoadBase::m_position)));
+    return JoinRows(ElementLoadFields<Record>(),
+                    MakeRows(Plain<Record>("type", &CFaceLoadBase::m_type),
+                             Reference<Record, CModule::Axis>("axis", &CFaceLoadBase::m_axis),
+                             Plain<Record>("direction", &CFaceLoadBase::m_direction),
+                             Plain<Record>("projected", &CFaceLoadBase::m_projected),
+                             Plain<Record>("position", &CFaceLoadBase::m_position)));
   }
 
  private:
@@ -64,8 +63,8 @@ class CFaceLoad : public CFaceLoadBase {
   friend bool operator==(CFaceLoad const& a, CFaceLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(FaceLoadFields<CFaceLoad>(),
-                          std::make_tuple(Plain<CFaceLoad>("value", &CFaceLoad::m_values)));
+    return JoinRows(FaceLoadFields<CFaceLoad>(),
+                    MakeRows(Plain<CFaceLoad>("value", &CFaceLoad::m_values)));
   }
 
  private:
@@ -91,12 +90,11 @@ class CEdgeLoad : public CElementLoadBase {
   friend bool operator==(CEdgeLoad const& a, CEdgeLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CEdgeLoad>(),
-        std::make_tuple(Reference<CEdgeLoad, CModule::Axis>("axis", &CEdgeLoad::m_axis),
-                        Plain<CEdgeLoad>("direction", &CEdgeLoad::m_direction),
-                        Plain<CEdgeLoad>("edge", &CEdgeLoad::m_edge),
-                        Plain<CEdgeLoad>("value", &CEdgeLoad::m_values)));
+    return JoinRows(ElementLoadFields<CEdgeLoad>(),
+                    MakeRows(Reference<CEdgeLoad, CModule::Axis>("axis", &CEdgeLoad::m_axis),
+                             Plain<CEdgeLoad>("direction", &CEdgeLoad::m_direction),
+                             Plain<CEdgeLoad>("edge", &CEdgeLoad::m_edge),
+                             Plain<CEdgeLoad>("value", &CEdgeLoad::m_values)));
   }
 
  private:
@@ -120,10 +118,9 @@ class CInPlaneLoad : public CElementLoadBase {
   friend bool operator==(CInPlaneLoad const& a, CInPlaneLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CInPlaneLoad>(),
-        std::make_tuple(Reference<CInPlaneLoad, CModule::Axis>("axis", &CInPlaneLoad::m_axis),
-                        Plain<CInPlaneLoad>("value", &CInPlaneLoad::m_values)));
+    return JoinRows(ElementLoadFields<CInPlaneLoad>(),
+                    MakeRows(Reference<CInPlaneLoad, CModule::Axis>("axis", &CInPlaneLoad::m_axis),
+                             Plain<CInPlaneLoad>("value", &CInPlaneLoad::m_values)));
   }
 
  private:
@@ -152,10 +149,9 @@ class CFaceThermalLoad : public CElementLoadBase {
   }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ElementLoadFields<CFaceThermalLoad>(),
-        std::make_tuple(Plain<CFaceThermalLoad>("type", &CFaceThermalLoad::m_type),
-                        Plain<CFaceThermalLoad>("value", &CFaceThermalLoad::m_values)));
+    return JoinRows(ElementLoadFields<CFaceThermalLoad>(),
+                    MakeRows(Plain<CFaceThermalLoad>("type", &CFaceThermalLoad::m_type),
+                             Plain<CFaceThermalLoad>("value", &CFaceThermalLoad::m_values)));
   }
 
  private:

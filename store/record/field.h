@@ -1,6 +1,6 @@
 // One description of a record's fields.
 //
-// A record class lists its fields once, in a static function Fields() that gives a tuple of Field
+// A record class lists its fields once, in a static function Fields() that gives a pack of Field
 // rows. Equality, difference, model files, their schema and the integrity check are made from it.
 #pragma once
 
@@ -9,11 +9,11 @@
 #include <bit>
 #include <cstdint>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 #include <vector>
 
 #include "store/numeric/vec.h"
+#include "store/record/row_pack.h"
 #include "store/select/module_id.h"
 
 namespace Tarvex {
@@ -62,10 +62,14 @@ concept Described = requires {
   T::Fields();
 };
 
+/// The field rows of a record class, made once.
+template <Described Record>
+inline constexpr auto kFieldsOf = Record::Fields();
+
 /// Calls visit(row) for each field of a record class.
 template <Described Record, class Visit>
 constexpr void ForEachField(Visit&& visit) {
-  std::apply([&](auto const&... rows) { (visit(rows), ...); }, Record::Fields());
+  kFieldsOf<Record>.ForEach(visit);
 }
 
 /// Equality to the bit: 0 and -0 differ. The store's promise is that undo, copies and files give
@@ -93,9 +97,7 @@ bool Same(std::vector<T> const& a, std::vector<T> const& b) {
 template <class T>
 bool Same(T const& a, T const& b) {
   if constexpr (Described<T>)
-    return std::apply(
-        [&](auto const&... row) { return (Same(a.*row.member, b.*row.member) && ...); },
-        T::Fields());
+    return kFieldsOf<T>.All([&](auto const& row) { return Same(a.*row.member, b.*row.member); });
   else
     return a == b;
 }

@@ -16,7 +16,7 @@ class CForceDensity1D : public NamedEntity {
   friend bool operator==(CForceDensity1D const& a, CForceDensity1D const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CForceDensity1D;
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("density", &R::density)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("density", &R::density)));
   }
 };
 
@@ -31,7 +31,7 @@ class CSoapStress1D : public NamedEntity {
   friend bool operator==(CSoapStress1D const& a, CSoapStress1D const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CSoapStress1D;
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("force", &R::force)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("force", &R::force)));
   }
 };
 
@@ -46,7 +46,7 @@ class CForceDensity2D : public NamedEntity {
   friend bool operator==(CForceDensity2D const& a, CForceDensity2D const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CForceDensity2D;
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("density", &R::density)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("density", &R::density)));
   }
 };
 
@@ -62,8 +62,8 @@ class CSoapStress2D : public NamedEntity {
   friend bool operator==(CSoapStress2D const& a, CSoapStress2D const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CSoapStress2D;
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("stress", &R::stress),
-                                                            Plain<R>("shear", &R::shear)));
+    return JoinRows(NamedFields<R>(),
+                    MakeRows(Plain<R>("stress", &R::stress), Plain<R>("shear", &R::shear)));
   }
 };
 

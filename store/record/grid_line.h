@@ -26,11 +26,11 @@ class CGridLine : public NamedEntity {
   friend bool operator==(CGridLine const& a, CGridLine const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CGridLine>(),
-                          std::make_tuple(Plain<CGridLine>("start", &CGridLine::m_start),
-                                          Plain<CGridLine>("length", &CGridLine::m_length),
-                                          Plain<CGridLine>("angle", &CGridLine::m_angle),
-                                          Plain<CGridLine>("arc", &CGridLine::m_arc)));
+    return JoinRows(NamedFields<CGridLine>(),
+                    MakeRows(Plain<CGridLine>("start", &CGridLine::m_start),
+                             Plain<CGridLine>("length", &CGridLine::m_length),
+                             Plain<CGridLine>("angle", &CGridLine::m_angle),
+                             Plain<CGridLine>("arc", &CGridLine::m_arc)));
   }
 
  private:

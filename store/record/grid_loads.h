@@ -49,7 +49,7 @@ class CGridLoadBase : public BaseEntity {
   /// Fields of the bases, which come first in every load on a grid.
   template <class Record>
   static constexpr auto GridLoadFields() {
-    return std::make_tuple(
+    return MakeRows(
         SidField<Record>(),
         Reference<Record, CModule::LoadCaseTitle>("loadCase", &CGridLoadBase::m_loadCase),
         Reference<Record, CModule::GridSurface>("surface", &CGridLoadBase::m_surface),
@@ -79,10 +79,9 @@ class CGridPointLoad : public CGridLoadBase {
   friend bool operator==(CGridPointLoad const& a, CGridPointLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        GridLoadFields<CGridPointLoad>(),
-        std::make_tuple(Plain<CGridPointLoad>("gridCoor", &CGridPointLoad::m_point),
-                        Plain<CGridPointLoad>("value", &CGridPointLoad::m_value)));
+    return JoinRows(GridLoadFields<CGridPointLoad>(),
+                    MakeRows(Plain<CGridPointLoad>("gridCoor", &CGridPointLoad::m_point),
+                             Plain<CGridPointLoad>("value", &CGridPointLoad::m_value)));
   }
 
  private:
@@ -128,11 +127,11 @@ class CGridShapeLoad : public CGridLoadBase {
   /// Fields of the bases; a file names the shape as the class does.
   template <class Record>
   static constexpr auto ShapeFields(std::string_view shape) {
-    return std::tuple_cat(GridLoadFields<Record>(),
-                          std::make_tuple(Plain<Record>(shape, &CGridShapeLoad::m_shape),
-                                          Plain<Record>("polygon", &CGridShapeLoad::m_points),
-                                          Reference<Record, CModule::Polyline>(
-                                              "polyRef", &CGridShapeLoad::m_polyRef)));
+    return JoinRows(
+        GridLoadFields<Record>(),
+        MakeRows(Plain<Record>(shape, &CGridShapeLoad::m_shape),
+                 Plain<Record>("polygon", &CGridShapeLoad::m_points),
+                 Reference<Record, CModule::Polyline>("polyRef", &CGridShapeLoad::m_polyRef)));
   }
 
  private:
@@ -163,8 +162,8 @@ class CGridLineLoad : public CGridShapeLoad {
   friend bool operator==(CGridLineLoad const& a, CGridLineLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(ShapeFields<CGridLineLoad>("line"),
-                          std::make_tuple(Plain<CGridLineLoad>("value", &CGridLineLoad::m_values)));
+    return JoinRows(ShapeFields<CGridLineLoad>("line"),
+                    MakeRows(Plain<CGridLineLoad>("value", &CGridLineLoad::m_values)));
   }
 
  private:
@@ -190,8 +189,8 @@ class CGridAreaLoad : public CGridShapeLoad {
   friend bool operator==(CGridAreaLoad const& a, CGridAreaLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(ShapeFields<CGridAreaLoad>("area"),
-                          std::make_tuple(Plain<CGridAreaLoad>("value", &CGridAreaLoad::m_value)));
+    return JoinRows(ShapeFields<CGridAreaLoad>("area"),
+                    MakeRows(Plain<CGridAreaLoad>("value", &CGridAreaLoad::m_value)));
   }
 
  private:

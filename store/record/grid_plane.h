@@ -25,11 +25,10 @@ class CGridPlane : public NamedEntity {
   friend bool operator==(CGridPlane const& a, CGridPlane const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CGridPlane>(),
-        std::make_tuple(Reference<CGridPlane, CModule::Axis>("axis", &CGridPlane::m_axis),
-                        Plain<CGridPlane>("elevation", &CGridPlane::m_elevation),
-                        Plain<CGridPlane>("storey", &CGridPlane::m_storey)));
+    return JoinRows(NamedFields<CGridPlane>(),
+                    MakeRows(Reference<CGridPlane, CModule::Axis>("axis", &CGridPlane::m_axis),
+                             Plain<CGridPlane>("elevation", &CGridPlane::m_elevation),
+                             Plain<CGridPlane>("storey", &CGridPlane::m_storey)));
   }
 
  private:

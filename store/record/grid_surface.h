@@ -54,12 +54,11 @@ class TARVEX_STORE_EXPORT CGridSurface : public NamedEntity {
   friend bool operator==(CGridSurface const& a, CGridSurface const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CGridSurface>(),
-        std::make_tuple(
-            Reference<CGridSurface, CModule::GridPlane>("plane", &CGridSurface::m_plane),
-            Plain<CGridSurface>("elements", &CGridSurface::m_elements),
-            Plain<CGridSurface>("elementType", &CGridSurface::m_elementType)));
+        MakeRows(Reference<CGridSurface, CModule::GridPlane>("plane", &CGridSurface::m_plane),
+                 Plain<CGridSurface>("elements", &CGridSurface::m_elements),
+                 Plain<CGridSurface>("elementType", &CGridSurface::m_elementType)));
   }
 
  private:

@@ -26,9 +26,7 @@ class HeldList : public CEntList {
 
   friend bool operator==(HeldList const& a, HeldList const& b) { return Same(a, b); }
 
-  static constexpr auto Fields() {
-    return std::make_tuple(KindField<HeldList>(), TextField<HeldList>());
-  }
+  static constexpr auto Fields() { return MakeRows(KindField<HeldList>(), TextField<HeldList>()); }
 };
 
 /// A list of one kind in a field of a record; a file holds its text alone.
@@ -53,7 +51,7 @@ class ListOf : public HeldList {
 
   friend bool operator==(ListOf const& a, ListOf const& b) { return Same(a, b); }
 
-  static constexpr auto Fields() { return std::make_tuple(TextField<ListOf>()); }
+  static constexpr auto Fields() { return MakeRows(TextField<ListOf>()); }
 
  private:
   explicit ListOf(CEntList const& list) : HeldList(list) {}

@@ -17,9 +17,9 @@ class CInfluenceNode : public NamedEntity {
   friend bool operator==(CInfluenceNode const& a, CInfluenceNode const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CInfluenceNode>(),
-        std::make_tuple(Reference<CInfluenceNode, CModule::Node>("node", &CInfluenceNode::m_node)));
+        MakeRows(Reference<CInfluenceNode, CModule::Node>("node", &CInfluenceNode::m_node)));
   }
 
  private:
@@ -38,9 +38,9 @@ class CInfluenceBeam : public NamedEntity {
   friend bool operator==(CInfluenceBeam const& a, CInfluenceBeam const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CInfluenceBeam>(),
-                          std::make_tuple(Reference<CInfluenceBeam, CModule::Elem>(
-                              "elem", &CInfluenceBeam::m_element)));
+    return JoinRows(
+        NamedFields<CInfluenceBeam>(),
+        MakeRows(Reference<CInfluenceBeam, CModule::Elem>("elem", &CInfluenceBeam::m_element)));
   }
 
  private:

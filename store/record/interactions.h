@@ -42,14 +42,13 @@ class CRaftInteraction : public NamedEntity {
   }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CRaftInteraction>(),
-        std::make_tuple(Plain<CRaftInteraction>("nodes", &CRaftInteraction::m_nodes),
-                        Plain<CRaftInteraction>("x", &CRaftInteraction::m_x),
-                        Plain<CRaftInteraction>("y", &CRaftInteraction::m_y),
-                        Plain<CRaftInteraction>("level", &CRaftInteraction::m_level),
-                        Plain<CRaftInteraction>("lowerLimit", &CRaftInteraction::m_lower),
-                        Plain<CRaftInteraction>("upperLimit", &CRaftInteraction::m_upper)));
+    return JoinRows(NamedFields<CRaftInteraction>(),
+                    MakeRows(Plain<CRaftInteraction>("nodes", &CRaftInteraction::m_nodes),
+                             Plain<CRaftInteraction>("x", &CRaftInteraction::m_x),
+                             Plain<CRaftInteraction>("y", &CRaftInteraction::m_y),
+                             Plain<CRaftInteraction>("level", &CRaftInteraction::m_level),
+                             Plain<CRaftInteraction>("lowerLimit", &CRaftInteraction::m_lower),
+                             Plain<CRaftInteraction>("upperLimit", &CRaftInteraction::m_upper)));
   }
 
  private:
@@ -76,9 +75,8 @@ class CPileInteraction : public NamedEntity {
   }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CPileInteraction>(),
-        std::make_tuple(Plain<CPileInteraction>("nodes", &CPileInteraction::m_nodes)));
+    return JoinRows(NamedFields<CPileInteraction>(),
+                    MakeRows(Plain<CPileInteraction>("nodes", &CPileInteraction::m_nodes)));
   }
 
  private:

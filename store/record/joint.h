@@ -28,12 +28,11 @@ class CJoint : public CStagedEntity {
   friend bool operator==(CJoint const& a, CJoint const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CJoint>(),
-        std::make_tuple(
-            Plain<CJoint>("direction", &CJoint::m_direction),
-            Reference<CJoint, CModule::Node>("primaryNode", &CJoint::m_primaryNode),
-            Reference<CJoint, CModule::Node>("constrainedNode", &CJoint::m_constrainedNode)),
+        MakeRows(Plain<CJoint>("direction", &CJoint::m_direction),
+                 Reference<CJoint, CModule::Node>("primaryNode", &CJoint::m_primaryNode),
+                 Reference<CJoint, CModule::Node>("constrainedNode", &CJoint::m_constrainedNode)),
         StageField<CJoint>());
   }
 

@@ -22,8 +22,8 @@ class CLinkProp : public NamedEntity {
   friend bool operator==(CLinkProp const& a, CLinkProp const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CLinkProp>(),
-                          std::make_tuple(Plain<CLinkProp>("type", &CLinkProp::m_type)));
+    return JoinRows(NamedFields<CLinkProp>(),
+                    MakeRows(Plain<CLinkProp>("type", &CLinkProp::m_type)));
   }
 
  private:

@@ -29,7 +29,7 @@ class EntityList : public HeldList {
   friend bool operator==(EntityList const& a, EntityList const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::make_tuple(KindField<EntityList>(), TextField<EntityList>());
+    return MakeRows(KindField<EntityList>(), TextField<EntityList>());
   }
 
  private:
@@ -60,8 +60,8 @@ class CLoadBase : public BaseEntity {
   /// Fields of the base, which come first in every load.
   template <class Record>
   static constexpr auto LoadFields() {
-    return std::make_tuple(SidField<Record>(), Reference<Record, CModule::LoadCaseTitle>(
-                                                   "loadCase", &CLoadBase::m_loadCase));
+    return MakeRows(SidField<Record>(),
+                    Reference<Record, CModule::LoadCaseTitle>("loadCase", &CLoadBase::m_loadCase));
   }
 
  private:
@@ -78,9 +78,8 @@ class CElementLoadBase : public CLoadBase {
   /// Fields of the bases, which come first in every load on entities.
   template <class Record>
   static constexpr auto ElementLoadFields() {
-    return std::tuple_cat(
-        LoadFields<Record>(),
-        std::make_tuple(Plain<Record>("loadedEntities", &CElementLoadBase::m_entities)));
+    return JoinRows(LoadFields<Record>(),
+                    MakeRows(Plain<Record>("loadedEntities", &CElementLoadBase::m_entities)));
   }
 
  private:

@@ -38,15 +38,14 @@ class LoadPanel : public NamedEntity {
   friend bool operator==(LoadPanel const& a, LoadPanel const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<LoadPanel>(),
-        std::make_tuple(
-            Plain<LoadPanel>("group", &LoadPanel::m_group),
-            Reference<LoadPanel, CModule::Prop2D>("property", &LoadPanel::m_property),
-            Reference<LoadPanel, CModule::Node>("topology", &LoadPanel::m_topology, true),
-            Plain<LoadPanel>("orientationAngle", &LoadPanel::m_orientationAngle),
-            Plain<LoadPanel>("dummy", &LoadPanel::m_dummy),
-            Plain<LoadPanel>("parentMember", &LoadPanel::m_parentMember)));
+        MakeRows(Plain<LoadPanel>("group", &LoadPanel::m_group),
+                 Reference<LoadPanel, CModule::Prop2D>("property", &LoadPanel::m_property),
+                 Reference<LoadPanel, CModule::Node>("topology", &LoadPanel::m_topology, true),
+                 Plain<LoadPanel>("orientationAngle", &LoadPanel::m_orientationAngle),
+                 Plain<LoadPanel>("dummy", &LoadPanel::m_dummy),
+                 Plain<LoadPanel>("parentMember", &LoadPanel::m_parentMember)));
   }
 
  private:

@@ -18,8 +18,8 @@ struct TensSym3 {
   friend bool operator==(TensSym3 const& a, TensSym3 const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = TensSym3;
-    return std::make_tuple(Plain<R>("xx", &R::xx), Plain<R>("yy", &R::yy), Plain<R>("zz", &R::zz),
-                           Plain<R>("xy", &R::xy), Plain<R>("yz", &R::yz), Plain<R>("zx", &R::zx));
+    return MakeRows(Plain<R>("xx", &R::xx), Plain<R>("yy", &R::yy), Plain<R>("zz", &R::zz),
+                    Plain<R>("xy", &R::xy), Plain<R>("yz", &R::yz), Plain<R>("zx", &R::zx));
   }
 };
 
@@ -49,10 +49,10 @@ class CMassProp : public NamedEntity {
   friend bool operator==(CMassProp const& a, CMassProp const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CMassProp>(),
-                          std::make_tuple(Plain<CMassProp>("mass", &CMassProp::m_mass),
-                                          Plain<CMassProp>("inertia", &CMassProp::m_inertia),
-                                          Plain<CMassProp>("factors", &CMassProp::m_factors)));
+    return JoinRows(NamedFields<CMassProp>(),
+                    MakeRows(Plain<CMassProp>("mass", &CMassProp::m_mass),
+                             Plain<CMassProp>("inertia", &CMassProp::m_inertia),
+                             Plain<CMassProp>("factors", &CMassProp::m_factors)));
   }
 
  private:

@@ -45,13 +45,12 @@ class TARVEX_STORE_EXPORT CMatAnal : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CMatAnal;
-    return std::tuple_cat(NamedFields<R>(),
-                          std::make_tuple(Plain<R>("kind", &R::m_kind),
-                                          Plain<R>("youngsModulus", &R::m_youngsModulus),
-                                          Plain<R>("poissonsRatio", &R::m_poissonsRatio),
-                                          Plain<R>("density", &R::m_density),
-                                          Plain<R>("thermalExpansion", &R::m_thermalExpansion),
-                                          Plain<R>("dampingRatio", &R::m_dampingRatio)));
+    return JoinRows(
+        NamedFields<R>(),
+        MakeRows(Plain<R>("kind", &R::m_kind), Plain<R>("youngsModulus", &R::m_youngsModulus),
+                 Plain<R>("poissonsRatio", &R::m_poissonsRatio), Plain<R>("density", &R::m_density),
+                 Plain<R>("thermalExpansion", &R::m_thermalExpansion),
+                 Plain<R>("dampingRatio", &R::m_dampingRatio)));
   }
 
  private:

@@ -36,8 +36,8 @@ class TARVEX_STORE_EXPORT MatDesign {
 
   friend bool operator==(MatDesign const& a, MatDesign const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<MatDesign>("type", &MatDesign::m_type),
-                           Field<MatDesign, int>{"grade", &MatDesign::m_grade, false, &GradeTable});
+    return MakeRows(Plain<MatDesign>("type", &MatDesign::m_type),
+                    Field<MatDesign, int>{"grade", &MatDesign::m_grade, false, &GradeTable});
   }
 
  private:
@@ -68,9 +68,9 @@ class HasMaterial {
 
   template <class Record>
   static constexpr auto MaterialFields() {
-    return std::make_tuple(Field<Record, int>{"materialAnalysis", &HasMaterial::m_materialAnalysis,
-                                              false, &AnalysisTable<Record>},
-                           Plain<Record>("materialDesign", &HasMaterial::m_materialDesign));
+    return MakeRows(Field<Record, int>{"materialAnalysis", &HasMaterial::m_materialAnalysis, false,
+                                       &AnalysisTable<Record>},
+                    Plain<Record>("materialDesign", &HasMaterial::m_materialDesign));
   }
 
  private:

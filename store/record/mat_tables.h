@@ -28,8 +28,7 @@ class CTableT : public NamedEntity {
   friend bool operator==(CTableT const& a, CTableT const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CTableT>(),
-                          std::make_tuple(Plain<CTableT>("points", &CTableT::m_points)));
+    return JoinRows(NamedFields<CTableT>(), MakeRows(Plain<CTableT>("points", &CTableT::m_points)));
   }
 
  private:
@@ -52,8 +51,8 @@ class TARVEX_STORE_EXPORT CMatMatrix : public NamedEntity {
   friend bool operator==(CMatMatrix const& a, CMatMatrix const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CMatMatrix>(),
-                          std::make_tuple(Plain<CMatMatrix>("terms", &CMatMatrix::m_terms)));
+    return JoinRows(NamedFields<CMatMatrix>(),
+                    MakeRows(Plain<CMatMatrix>("terms", &CMatMatrix::m_terms)));
   }
 
  private:

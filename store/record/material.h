@@ -18,10 +18,10 @@ struct ElasticValues {
   friend bool operator==(ElasticValues const& a, ElasticValues const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = ElasticValues;
-    return std::make_tuple(
-        Plain<R>("youngsModulus", &R::youngsModulus), Plain<R>("poissonsRatio", &R::poissonsRatio),
-        Plain<R>("density", &R::density), Plain<R>("thermalExpansion", &R::thermalExpansion),
-        Plain<R>("dampingRatio", &R::dampingRatio));
+    return MakeRows(Plain<R>("youngsModulus", &R::youngsModulus),
+                    Plain<R>("poissonsRatio", &R::poissonsRatio), Plain<R>("density", &R::density),
+                    Plain<R>("thermalExpansion", &R::thermalExpansion),
+                    Plain<R>("dampingRatio", &R::dampingRatio));
   }
 };
 
@@ -41,7 +41,7 @@ class GradeBase : public NamedEntity {
 
   template <class R>
   static constexpr auto GradeFields() {
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("elastic", &R::elastic)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("elastic", &R::elastic)));
   }
 };
 
@@ -58,10 +58,9 @@ class CMatSteel : public GradeBase {
   friend bool operator==(CMatSteel const& a, CMatSteel const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatSteel;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("yieldStrength", &R::yieldStrength),
-                                          Plain<R>("ultimateStrength", &R::ultimateStrength),
-                                          Plain<R>("ultimateStrain", &R::ultimateStrain)));
+    return JoinRows(GradeFields<R>(), MakeRows(Plain<R>("yieldStrength", &R::yieldStrength),
+                                               Plain<R>("ultimateStrength", &R::ultimateStrength),
+                                               Plain<R>("ultimateStrain", &R::ultimateStrain)));
   }
 };
 
@@ -80,12 +79,11 @@ class CMatConc : public GradeBase {
   friend bool operator==(CMatConc const& a, CMatConc const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatConc;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("cylinderStrength", &R::cylinderStrength),
-                                          Plain<R>("cubeStrength", &R::cubeStrength),
-                                          Plain<R>("tensileStrength", &R::tensileStrength),
-                                          Plain<R>("crushingStrain", &R::crushingStrain),
-                                          Plain<R>("lightweight", &R::lightweight)));
+    return JoinRows(GradeFields<R>(), MakeRows(Plain<R>("cylinderStrength", &R::cylinderStrength),
+                                               Plain<R>("cubeStrength", &R::cubeStrength),
+                                               Plain<R>("tensileStrength", &R::tensileStrength),
+                                               Plain<R>("crushingStrain", &R::crushingStrain),
+                                               Plain<R>("lightweight", &R::lightweight)));
   }
 };
 
@@ -103,11 +101,11 @@ class CMatFrp : public GradeBase {
   friend bool operator==(CMatFrp const& a, CMatFrp const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatFrp;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("tensileStrength", &R::tensileStrength),
-                                          Plain<R>("compressiveStrength", &R::compressiveStrength),
-                                          Plain<R>("shearStrength", &R::shearStrength),
-                                          Plain<R>("ruptureStrain", &R::ruptureStrain)));
+    return JoinRows(GradeFields<R>(),
+                    MakeRows(Plain<R>("tensileStrength", &R::tensileStrength),
+                             Plain<R>("compressiveStrength", &R::compressiveStrength),
+                             Plain<R>("shearStrength", &R::shearStrength),
+                             Plain<R>("ruptureStrain", &R::ruptureStrain)));
   }
 };
 
@@ -125,12 +123,11 @@ class CMatAlum : public GradeBase {
   friend bool operator==(CMatAlum const& a, CMatAlum const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatAlum;
-    return std::tuple_cat(
-        GradeFields<R>(),
-        std::make_tuple(Plain<R>("proofStrength", &R::proofStrength),
-                        Plain<R>("ultimateStrength", &R::ultimateStrength),
-                        Plain<R>("proofStrengthHaz", &R::proofStrengthHaz),
-                        Plain<R>("ultimateStrengthHaz", &R::ultimateStrengthHaz)));
+    return JoinRows(GradeFields<R>(),
+                    MakeRows(Plain<R>("proofStrength", &R::proofStrength),
+                             Plain<R>("ultimateStrength", &R::ultimateStrength),
+                             Plain<R>("proofStrengthHaz", &R::proofStrengthHaz),
+                             Plain<R>("ultimateStrengthHaz", &R::ultimateStrengthHaz)));
   }
 };
 
@@ -151,14 +148,14 @@ class CMatTimber : public GradeBase {
   friend bool operator==(CMatTimber const& a, CMatTimber const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatTimber;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("bendingStrength", &R::bendingStrength),
-                                          Plain<R>("tensionStrength", &R::tensionStrength),
-                                          Plain<R>("compressionStrength", &R::compressionStrength),
-                                          Plain<R>("bearingStrength", &R::bearingStrength),
-                                          Plain<R>("shearStrength", &R::shearStrength),
-                                          Plain<R>("modulusAcrossGrain", &R::modulusAcrossGrain),
-                                          Plain<R>("shearModulus", &R::shearModulus)));
+    return JoinRows(GradeFields<R>(),
+                    MakeRows(Plain<R>("bendingStrength", &R::bendingStrength),
+                             Plain<R>("tensionStrength", &R::tensionStrength),
+                             Plain<R>("compressionStrength", &R::compressionStrength),
+                             Plain<R>("bearingStrength", &R::bearingStrength),
+                             Plain<R>("shearStrength", &R::shearStrength),
+                             Plain<R>("modulusAcrossGrain", &R::modulusAcrossGrain),
+                             Plain<R>("shearModulus", &R::shearModulus)));
   }
 };
 
@@ -174,9 +171,8 @@ class CMatGlass : public GradeBase {
   friend bool operator==(CMatGlass const& a, CMatGlass const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatGlass;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("bendingStrength", &R::bendingStrength),
-                                          Plain<R>("surfacePrestress", &R::surfacePrestress)));
+    return JoinRows(GradeFields<R>(), MakeRows(Plain<R>("bendingStrength", &R::bendingStrength),
+                                               Plain<R>("surfacePrestress", &R::surfacePrestress)));
   }
 };
 
@@ -195,12 +191,11 @@ class CMatFabric : public GradeBase {
   friend bool operator==(CMatFabric const& a, CMatFabric const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatFabric;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("warpStiffness", &R::warpStiffness),
-                                          Plain<R>("weftStiffness", &R::weftStiffness),
-                                          Plain<R>("shearStiffness", &R::shearStiffness),
-                                          Plain<R>("warpStrength", &R::warpStrength),
-                                          Plain<R>("weftStrength", &R::weftStrength)));
+    return JoinRows(GradeFields<R>(), MakeRows(Plain<R>("warpStiffness", &R::warpStiffness),
+                                               Plain<R>("weftStiffness", &R::weftStiffness),
+                                               Plain<R>("shearStiffness", &R::shearStiffness),
+                                               Plain<R>("warpStrength", &R::warpStrength),
+                                               Plain<R>("weftStrength", &R::weftStrength)));
   }
 };
 
@@ -217,10 +212,9 @@ class CMatRebar : public GradeBase {
   friend bool operator==(CMatRebar const& a, CMatRebar const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     using R = CMatRebar;
-    return std::tuple_cat(GradeFields<R>(),
-                          std::make_tuple(Plain<R>("yieldStrength", &R::yieldStrength),
-                                          Plain<R>("ultimateStrength", &R::ultimateStrength),
-                                          Plain<R>("ultimateStrain", &R::ultimateStrain)));
+    return JoinRows(GradeFields<R>(), MakeRows(Plain<R>("yieldStrength", &R::yieldStrength),
+                                               Plain<R>("ultimateStrength", &R::ultimateStrength),
+                                               Plain<R>("ultimateStrain", &R::ultimateStrain)));
   }
 };
 

@@ -129,22 +129,22 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   friend bool operator==(CMember const& a, CMember const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CMember>(),
-        std::make_tuple(
-            Plain<CMember>("type", &CMember::m_type), Plain<CMember>("group", &CMember::m_group),
-            Field<CMember, int>{"property", &CMember::m_property, false, &PropertyTable},
-            Reference<CMember, CModule::Node>("topology", &CMember::m_topology, true),
-            Reference<CMember, CModule::Node>("orientationNode", &CMember::m_orientationNode),
-            Plain<CMember>("orientationAngle", &CMember::m_orientationAngle),
-            Plain<CMember>("offset", &CMember::m_offset),
-            Plain<CMember>("endRelease", &CMember::m_endRelease),
-            Plain<CMember>("endRestraint", &CMember::m_endRestraint),
-            Plain<CMember>("analysisType1D", &CMember::m_analysisType1D),
-            Plain<CMember>("analysisOrder", &CMember::m_analysisOrder),
-            Plain<CMember>("dummy", &CMember::m_dummy),
-            Plain<CMember>("releaseEdges", &CMember::m_releaseEdges),
-            Reference<CMember, CModule::Elem>("children", &CMember::m_children)));
+        MakeRows(Plain<CMember>("type", &CMember::m_type),
+                 Plain<CMember>("group", &CMember::m_group),
+                 Field<CMember, int>{"property", &CMember::m_property, false, &PropertyTable},
+                 Reference<CMember, CModule::Node>("topology", &CMember::m_topology, true),
+                 Reference<CMember, CModule::Node>("orientationNode", &CMember::m_orientationNode),
+                 Plain<CMember>("orientationAngle", &CMember::m_orientationAngle),
+                 Plain<CMember>("offset", &CMember::m_offset),
+                 Plain<CMember>("endRelease", &CMember::m_endRelease),
+                 Plain<CMember>("endRestraint", &CMember::m_endRestraint),
+                 Plain<CMember>("analysisType1D", &CMember::m_analysisType1D),
+                 Plain<CMember>("analysisOrder", &CMember::m_analysisOrder),
+                 Plain<CMember>("dummy", &CMember::m_dummy),
+                 Plain<CMember>("releaseEdges", &CMember::m_releaseEdges),
+                 Reference<CMember, CModule::Elem>("children", &CMember::m_children)));
   }
 
  private:

@@ -57,16 +57,15 @@ class TARVEX_STORE_EXPORT CNode : public NamedEntity {
   friend bool operator==(CNode const& a, CNode const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CNode>(),
-        std::make_tuple(
-            Required<CNode>("position", &CNode::m_position),
-            Reference<CNode, CModule::Axis>("axis", &CNode::m_axis),
-            Plain<CNode>("restraint", &CNode::m_restraint),
-            Reference<CNode, CModule::SpringProp>("springProperty", &CNode::m_springProperty),
-            Reference<CNode, CModule::MassProp>("massProperty", &CNode::m_massProperty),
-            Reference<CNode, CModule::DamperProp>("damperProperty", &CNode::m_damperProperty),
-            Plain<CNode>("meshSize", &CNode::m_meshSize)));
+        MakeRows(Required<CNode>("position", &CNode::m_position),
+                 Reference<CNode, CModule::Axis>("axis", &CNode::m_axis),
+                 Plain<CNode>("restraint", &CNode::m_restraint),
+                 Reference<CNode, CModule::SpringProp>("springProperty", &CNode::m_springProperty),
+                 Reference<CNode, CModule::MassProp>("massProperty", &CNode::m_massProperty),
+                 Reference<CNode, CModule::DamperProp>("damperProperty", &CNode::m_damperProperty),
+                 Plain<CNode>("meshSize", &CNode::m_meshSize)));
   }
 
  private:

@@ -39,12 +39,11 @@ class CNodeLoad : public CLoadBase {
   friend bool operator==(CNodeLoad const& a, CNodeLoad const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        LoadFields<CNodeLoad>(),
-        std::make_tuple(Plain<CNodeLoad>("loadedEntities", &CNodeLoad::m_nodes),
-                        Reference<CNodeLoad, CModule::Axis>("axis", &CNodeLoad::m_axis),
-                        Plain<CNodeLoad>("direction", &CNodeLoad::m_direction),
-                        Plain<CNodeLoad>("value", &CNodeLoad::m_value)));
+    return JoinRows(LoadFields<CNodeLoad>(),
+                    MakeRows(Plain<CNodeLoad>("loadedEntities", &CNodeLoad::m_nodes),
+                             Reference<CNodeLoad, CModule::Axis>("axis", &CNodeLoad::m_axis),
+                             Plain<CNodeLoad>("direction", &CNodeLoad::m_direction),
+                             Plain<CNodeLoad>("value", &CNodeLoad::m_value)));
   }
 
  private:

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <tuple>
 
 #include "store/record/field.h"
 
@@ -54,10 +53,10 @@ class COffset {
 
   friend bool operator==(COffset const& a, COffset const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(
-        Plain<COffset>("x1", &COffset::m_x1), Plain<COffset>("x2", &COffset::m_x2),
-        Plain<COffset>("y", &COffset::m_y), Plain<COffset>("z", &COffset::m_z),
-        Plain<COffset>("auto", &COffset::m_auto), Plain<COffset>("type", &COffset::m_type));
+    return MakeRows(Plain<COffset>("x1", &COffset::m_x1), Plain<COffset>("x2", &COffset::m_x2),
+                    Plain<COffset>("y", &COffset::m_y), Plain<COffset>("z", &COffset::m_z),
+                    Plain<COffset>("auto", &COffset::m_auto),
+                    Plain<COffset>("type", &COffset::m_type));
   }
 
  private:

@@ -23,8 +23,8 @@ class TARVEX_STORE_EXPORT CDamperProp : public NamedEntity {
   friend bool operator==(CDamperProp const& a, CDamperProp const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CDamperProp>(),
-                          std::make_tuple(Plain<CDamperProp>("damping", &CDamperProp::m_damping)));
+    return JoinRows(NamedFields<CDamperProp>(),
+                    MakeRows(Plain<CDamperProp>("damping", &CDamperProp::m_damping)));
   }
 
  private:
@@ -46,11 +46,10 @@ class CCableProp : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CCableProp;
-    return std::tuple_cat(
-        NamedFields<R>(),
-        std::make_tuple(Plain<R>("stiffness", &R::stiffness), Plain<R>("mass", &R::mass),
-                        Plain<R>("thermalExpansion", &R::thermalExpansion),
-                        Plain<R>("dampingRatio", &R::dampingRatio)));
+    return JoinRows(NamedFields<R>(),
+                    MakeRows(Plain<R>("stiffness", &R::stiffness), Plain<R>("mass", &R::mass),
+                             Plain<R>("thermalExpansion", &R::thermalExpansion),
+                             Plain<R>("dampingRatio", &R::dampingRatio)));
   }
 };
 
@@ -72,11 +71,10 @@ class CSpacerProp : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CSpacerProp;
-    return std::tuple_cat(
-        NamedFields<R>(),
-        std::make_tuple(Plain<R>("type", &R::type), Plain<R>("axialStiffness", &R::axialStiffness),
-                        Plain<R>("torsionStiffness", &R::torsionStiffness),
-                        Plain<R>("lengthRatio", &R::lengthRatio)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("type", &R::type),
+                                               Plain<R>("axialStiffness", &R::axialStiffness),
+                                               Plain<R>("torsionStiffness", &R::torsionStiffness),
+                                               Plain<R>("lengthRatio", &R::lengthRatio)));
   }
 };
 
@@ -99,11 +97,11 @@ class CRC2DProp : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CRC2DProp;
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<R>(),
-        std::make_tuple(Plain<R>("coverTop", &R::coverTop),
-                        Plain<R>("coverBottom", &R::coverBottom), Plain<R>("angle", &R::angle),
-                        Plain<R>("barsTop", &R::barsTop), Plain<R>("barsBottom", &R::barsBottom)));
+        MakeRows(Plain<R>("coverTop", &R::coverTop), Plain<R>("coverBottom", &R::coverBottom),
+                 Plain<R>("angle", &R::angle), Plain<R>("barsTop", &R::barsTop),
+                 Plain<R>("barsBottom", &R::barsBottom)));
   }
 };
 

@@ -28,10 +28,9 @@ class TARVEX_STORE_EXPORT CPolyline : public NamedEntity {
   friend bool operator==(CPolyline const& a, CPolyline const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CPolyline>(),
-        std::make_tuple(Reference<CPolyline, CModule::GridPlane>("plane", &CPolyline::m_plane),
-                        Plain<CPolyline>("points", &CPolyline::m_points)));
+    return JoinRows(NamedFields<CPolyline>(),
+                    MakeRows(Reference<CPolyline, CModule::GridPlane>("plane", &CPolyline::m_plane),
+                             Plain<CPolyline>("points", &CPolyline::m_points)));
   }
 
  private:

@@ -36,8 +36,8 @@ struct EffectiveThickness {
   }
   static constexpr auto Fields() {
     using R = EffectiveThickness;
-    return std::make_tuple(Plain<R>("bending", &R::bending), Plain<R>("inPlane", &R::inPlane),
-                           Plain<R>("volume", &R::volume));
+    return MakeRows(Plain<R>("bending", &R::bending), Plain<R>("inPlane", &R::inPlane),
+                    Plain<R>("volume", &R::volume));
   }
 };
 
@@ -85,12 +85,12 @@ class TARVEX_STORE_EXPORT CProp2D : public NamedEntity, public HasMaterial {
 
   static constexpr auto Fields() {
     using R = CProp2D;
-    return std::tuple_cat(
-        NamedFields<R>(), std::make_tuple(Plain<R>("type", &R::m_type)), MaterialFields<R>(),
-        std::make_tuple(Reference<R, CModule::Axis>("axis", &R::m_axis),
-                        Plain<R>("surface", &R::m_surface), Plain<R>("thickness", &R::m_thickness),
-                        Plain<R>("effective", &R::m_effective),
-                        Plain<R>("additionalMass", &R::m_additionalMass)));
+    return JoinRows(
+        NamedFields<R>(), MakeRows(Plain<R>("type", &R::m_type)), MaterialFields<R>(),
+        MakeRows(Reference<R, CModule::Axis>("axis", &R::m_axis),
+                 Plain<R>("surface", &R::m_surface), Plain<R>("thickness", &R::m_thickness),
+                 Plain<R>("effective", &R::m_effective),
+                 Plain<R>("additionalMass", &R::m_additionalMass)));
   }
 
  private:

@@ -27,9 +27,8 @@ class CProp3D : public NamedEntity, public HasMaterial {
 
   static constexpr auto Fields() {
     using R = CProp3D;
-    return std::tuple_cat(NamedFields<R>(), std::make_tuple(Plain<R>("type", &R::m_type)),
-                          MaterialFields<R>(),
-                          std::make_tuple(Reference<R, CModule::Axis>("axis", &R::m_axis)));
+    return JoinRows(NamedFields<R>(), MakeRows(Plain<R>("type", &R::m_type)), MaterialFields<R>(),
+                    MakeRows(Reference<R, CModule::Axis>("axis", &R::m_axis)));
   }
 
  private:

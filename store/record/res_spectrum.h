@@ -34,11 +34,10 @@ class CResSpectrum : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CResSpectrum;
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<R>(),
-        std::make_tuple(Plain<R>("codeType", &R::m_codeType), Plain<R>("factor", &R::m_factor),
-                        Plain<R>("dampingRatio", &R::m_dampingRatio),
-                        Plain<R>("points", &R::m_points)));
+        MakeRows(Plain<R>("codeType", &R::m_codeType), Plain<R>("factor", &R::m_factor),
+                 Plain<R>("dampingRatio", &R::m_dampingRatio), Plain<R>("points", &R::m_points)));
   }
 
  private:

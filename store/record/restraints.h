@@ -25,10 +25,10 @@ class CGenRest : public CStagedEntity {
   friend bool operator==(CGenRest const& a, CGenRest const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<CGenRest>(),
-                          std::make_tuple(Plain<CGenRest>("nodes", &CGenRest::m_nodes),
-                                          Plain<CGenRest>("restraint", &CGenRest::m_restraint)),
-                          StageField<CGenRest>());
+    return JoinRows(NamedFields<CGenRest>(),
+                    MakeRows(Plain<CGenRest>("nodes", &CGenRest::m_nodes),
+                             Plain<CGenRest>("restraint", &CGenRest::m_restraint)),
+                    StageField<CGenRest>());
   }
 
  private:
@@ -55,11 +55,10 @@ class CTied : public CStagedEntity {
   /// Fields of the bases.
   template <class Record>
   static constexpr auto TiedFields() {
-    return std::tuple_cat(
-        NamedFields<Record>(),
-        std::make_tuple(Plain<Record>("primaryElements", &CTied::m_primaryElements),
-                        Plain<Record>("constrainedEntities", &CTied::m_constrainedEntities)),
-        StageField<Record>());
+    return JoinRows(NamedFields<Record>(),
+                    MakeRows(Plain<Record>("primaryElements", &CTied::m_primaryElements),
+                             Plain<Record>("constrainedEntities", &CTied::m_constrainedEntities)),
+                    StageField<Record>());
   }
 
  private:

@@ -41,13 +41,12 @@ class CRigid : public CStagedEntity {
   friend bool operator==(CRigid const& a, CRigid const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<CRigid>(),
-        std::make_tuple(
-            Plain<CRigid>("type", &CRigid::m_type),
-            Reference<CRigid, CModule::Node>("primaryNode", &CRigid::m_primaryNode),
-            Plain<CRigid>("constrainedNodes", &CRigid::m_constrainedNodes),
-            Reference<CRigid, CModule::Member>("parentMember", &CRigid::m_parentMember)),
+        MakeRows(Plain<CRigid>("type", &CRigid::m_type),
+                 Reference<CRigid, CModule::Node>("primaryNode", &CRigid::m_primaryNode),
+                 Plain<CRigid>("constrainedNodes", &CRigid::m_constrainedNodes),
+                 Reference<CRigid, CModule::Member>("parentMember", &CRigid::m_parentMember)),
         StageField<CRigid>());
   }
 

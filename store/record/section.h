@@ -22,8 +22,8 @@ class CSecComp : public HasMaterial {
 
   friend bool operator==(CSecComp const& a, CSecComp const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::tuple_cat(std::make_tuple(Plain<CSecComp>("description", &CSecComp::m_description)),
-                          MaterialFields<CSecComp>());
+    return JoinRows(MakeRows(Plain<CSecComp>("description", &CSecComp::m_description)),
+                    MaterialFields<CSecComp>());
   }
 
  private:
@@ -95,11 +95,10 @@ class TARVEX_STORE_EXPORT CSection : public NamedEntity {
   friend bool operator==(CSection const& a, CSection const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        NamedFields<CSection>(),
-        std::make_tuple(Plain<CSection>("components", &CSection::m_components),
-                        Plain<CSection>("refPoint", &CSection::m_refPoint),
-                        Plain<CSection>("additionalMass", &CSection::m_additionalMass)));
+    return JoinRows(NamedFields<CSection>(),
+                    MakeRows(Plain<CSection>("components", &CSection::m_components),
+                             Plain<CSection>("refPoint", &CSection::m_refPoint),
+                             Plain<CSection>("additionalMass", &CSection::m_additionalMass)));
   }
 
  private:

@@ -24,9 +24,9 @@ class GeoStratum {
  protected:
   template <class Record>
   static constexpr auto StratumFields() {
-    return std::make_tuple(Plain<Record>("topYoungsModulus", &GeoStratum::m_topYoungsModulus),
-                           Plain<Record>("bottomYoungsModulus", &GeoStratum::m_bottomYoungsModulus),
-                           Plain<Record>("poissonsRatio", &GeoStratum::m_poissonsRatio));
+    return MakeRows(Plain<Record>("topYoungsModulus", &GeoStratum::m_topYoungsModulus),
+                    Plain<Record>("bottomYoungsModulus", &GeoStratum::m_bottomYoungsModulus),
+                    Plain<Record>("poissonsRatio", &GeoStratum::m_poissonsRatio));
   }
 
  private:
@@ -46,8 +46,8 @@ class GeoSedoStratum : public GeoStratum {
 
   friend bool operator==(GeoSedoStratum const& a, GeoSedoStratum const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::tuple_cat(std::make_tuple(Plain<GeoSedoStratum>("level", &GeoSedoStratum::m_level)),
-                          StratumFields<GeoSedoStratum>());
+    return JoinRows(MakeRows(Plain<GeoSedoStratum>("level", &GeoSedoStratum::m_level)),
+                    StratumFields<GeoSedoStratum>());
   }
 
  private:
@@ -70,8 +70,8 @@ class GeoSoilProfile : public NamedEntity {
   friend bool operator==(GeoSoilProfile const& a, GeoSoilProfile const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(NamedFields<GeoSoilProfile>(), std::make_tuple(Plain<GeoSoilProfile>(
-                                                             "strata", &GeoSoilProfile::m_strata)));
+    return JoinRows(NamedFields<GeoSoilProfile>(),
+                    MakeRows(Plain<GeoSoilProfile>("strata", &GeoSoilProfile::m_strata)));
   }
 
  private:
@@ -89,7 +89,7 @@ class GeoID {
 
   friend bool operator==(GeoID const& a, GeoID const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Reference<GeoID, CModule::SoilProfile>("ref", &GeoID::m_ref));
+    return MakeRows(Reference<GeoID, CModule::SoilProfile>("ref", &GeoID::m_ref));
   }
 
  private:
@@ -123,11 +123,10 @@ class GeoSoilZone : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = GeoSoilZone;
-    return std::tuple_cat(
-        NamedFields<R>(),
-        std::make_tuple(Plain<R>("profile", &R::m_profile), Plain<R>("xmin", &R::m_xmin),
-                        Plain<R>("xmax", &R::m_xmax), Plain<R>("ymin", &R::m_ymin),
-                        Plain<R>("ymax", &R::m_ymax)));
+    return JoinRows(NamedFields<R>(),
+                    MakeRows(Plain<R>("profile", &R::m_profile), Plain<R>("xmin", &R::m_xmin),
+                             Plain<R>("xmax", &R::m_xmax), Plain<R>("ymin", &R::m_ymin),
+                             Plain<R>("ymax", &R::m_ymax)));
   }
 
  private:

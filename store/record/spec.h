@@ -29,8 +29,8 @@ class TARVEX_STORE_EXPORT CUnit {
 
   friend bool operator==(CUnit const& a, CUnit const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<CUnit>("length", &CUnit::m_length),
-                           Plain<CUnit>("angle", &CUnit::m_angle));
+    return MakeRows(Plain<CUnit>("length", &CUnit::m_length),
+                    Plain<CUnit>("angle", &CUnit::m_angle));
   }
 
  private:
@@ -47,10 +47,10 @@ struct GenTolerances {
 
   friend bool operator==(GenTolerances const& a, GenTolerances const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Plain<GenTolerances>("pointInElement", &GenTolerances::pointInElement),
-                           Plain<GenTolerances>("vertical", &GenTolerances::vertical),
-                           Plain<GenTolerances>("axisAngle", &GenTolerances::axisAngle),
-                           Plain<GenTolerances>("coincidence", &GenTolerances::coincidence));
+    return MakeRows(Plain<GenTolerances>("pointInElement", &GenTolerances::pointInElement),
+                    Plain<GenTolerances>("vertical", &GenTolerances::vertical),
+                    Plain<GenTolerances>("axisAngle", &GenTolerances::axisAngle),
+                    Plain<GenTolerances>("coincidence", &GenTolerances::coincidence));
   }
 };
 
@@ -71,9 +71,8 @@ class TARVEX_STORE_EXPORT CSpec {
 
   friend bool operator==(CSpec const& a, CSpec const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(
-        Plain<CSpec>("genTol", &CSpec::m_genTol), Plain<CSpec>("unit", &CSpec::m_unit),
-        Reference<CSpec, CModule::GridPlane>("consGridRef", &CSpec::m_consGridRef));
+    return MakeRows(Plain<CSpec>("genTol", &CSpec::m_genTol), Plain<CSpec>("unit", &CSpec::m_unit),
+                    Reference<CSpec, CModule::GridPlane>("consGridRef", &CSpec::m_consGridRef));
   }
 
  private:
@@ -94,10 +93,9 @@ class CDefaults {
 
   friend bool operator==(CDefaults const& a, CDefaults const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(
-        Plain<CDefaults>("analysisTaskName", &CDefaults::m_analysisTaskName),
-        Plain<CDefaults>("analysisCaseName", &CDefaults::m_analysisCaseName),
-        Plain<CDefaults>("combinationCaseName", &CDefaults::m_combinationCaseName));
+    return MakeRows(Plain<CDefaults>("analysisTaskName", &CDefaults::m_analysisTaskName),
+                    Plain<CDefaults>("analysisCaseName", &CDefaults::m_analysisCaseName),
+                    Plain<CDefaults>("combinationCaseName", &CDefaults::m_combinationCaseName));
   }
 
  private:

@@ -70,14 +70,14 @@ class TARVEX_STORE_EXPORT CSpringProp : public NamedEntity {
 
   static constexpr auto Fields() {
     using R = CSpringProp;
-    return std::tuple_cat(
+    return JoinRows(
         NamedFields<R>(),
-        std::make_tuple(Plain<R>("type", &R::m_type), Plain<R>("stiffness", &R::m_stiffness),
-                        Plain<R>("lateralStiffness", &R::m_lateral),
-                        Reference<R, CModule::MatCurve>("tableRef", &R::m_tableRef),
-                        Reference<R, CModule::MatMatrix>("matrix", &R::m_matrix),
-                        Plain<R>("frictionCoefficient", &R::m_friction),
-                        Plain<R>("lowerLimit", &R::m_lower), Plain<R>("upperLimit", &R::m_upper)));
+        MakeRows(Plain<R>("type", &R::m_type), Plain<R>("stiffness", &R::m_stiffness),
+                 Plain<R>("lateralStiffness", &R::m_lateral),
+                 Reference<R, CModule::MatCurve>("tableRef", &R::m_tableRef),
+                 Reference<R, CModule::MatMatrix>("matrix", &R::m_matrix),
+                 Plain<R>("frictionCoefficient", &R::m_friction),
+                 Plain<R>("lowerLimit", &R::m_lower), Plain<R>("upperLimit", &R::m_upper)));
   }
 
  private:

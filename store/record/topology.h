@@ -3,7 +3,6 @@
 
 #include <boost/container/small_vector.hpp>
 #include <span>
-#include <tuple>
 
 #include "store/record/field.h"
 
@@ -23,9 +22,8 @@ struct ParentMember {
 
   friend bool operator==(ParentMember const&, ParentMember const&) = default;
   static constexpr auto Fields() {
-    return std::make_tuple(
-        Reference<ParentMember, CModule::Member>("member", &ParentMember::member),
-        Plain<ParentMember>("replica", &ParentMember::replica));
+    return MakeRows(Reference<ParentMember, CModule::Member>("member", &ParentMember::member),
+                    Plain<ParentMember>("replica", &ParentMember::replica));
   }
 };
 

@@ -16,7 +16,7 @@ class ViewItem {
 
   friend bool operator==(ViewItem const& a, ViewItem const& b) { return Same(a, b); }
   static constexpr auto Fields() {
-    return std::make_tuple(Reference<ViewItem, CModule::Axis>("axis", &ViewItem::m_axis));
+    return MakeRows(Reference<ViewItem, CModule::Axis>("axis", &ViewItem::m_axis));
   }
 
  private:
@@ -50,10 +50,10 @@ class EntityView : public NamedEntity {
 
   template <class Record>
   static constexpr auto ViewFields() {
-    return std::tuple_cat(NamedFields<Record>(),
-                          std::make_tuple(Plain<Record>("nodes", &EntityView::m_nodes),
-                                          Plain<Record>("elements", &EntityView::m_elements),
-                                          Plain<Record>("members", &EntityView::m_members)));
+    return JoinRows(NamedFields<Record>(),
+                    MakeRows(Plain<Record>("nodes", &EntityView::m_nodes),
+                             Plain<Record>("elements", &EntityView::m_elements),
+                             Plain<Record>("members", &EntityView::m_members)));
   }
 
  private:
@@ -83,11 +83,10 @@ class TARVEX_STORE_EXPORT CGrView : public EntityView {
   friend bool operator==(CGrView const& a, CGrView const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ViewFields<CGrView>(),
-        std::make_tuple(Plain<CGrView>("hiLiteElements", &CGrView::m_hiLiteElements),
-                        Plain<CGrView>("hiLiteMembers", &CGrView::m_hiLiteMembers),
-                        Plain<CGrView>("data", &CGrView::m_data)));
+    return JoinRows(ViewFields<CGrView>(),
+                    MakeRows(Plain<CGrView>("hiLiteElements", &CGrView::m_hiLiteElements),
+                             Plain<CGrView>("hiLiteMembers", &CGrView::m_hiLiteMembers),
+                             Plain<CGrView>("data", &CGrView::m_data)));
   }
 
  private:
@@ -115,10 +114,9 @@ class TARVEX_STORE_EXPORT COpView : public EntityView {
   friend bool operator==(COpView const& a, COpView const& b) { return Same(a, b); }
 
   static constexpr auto Fields() {
-    return std::tuple_cat(
-        ViewFields<COpView>(),
-        std::make_tuple(Reference<COpView, CModule::Axis>("axis", &COpView::m_axis),
-                        Plain<COpView>("data", &COpView::m_data)));
+    return JoinRows(ViewFields<COpView>(),
+                    MakeRows(Reference<COpView, CModule::Axis>("axis", &COpView::m_axis),
+                             Plain<COpView>("data", &COpView::m_data)));
   }
 
  private:

@@ -35,7 +35,7 @@ TEST(PropertyRecordsLink, Materials) {
   EXPECT_EQ(CTableT<double>(L"", {{1, 2}}).Point(0).y, 2);
   EXPECT_EQ(Design::CMatSteel(L"a").Name(), L"a");
   // The table of a grade is asked of the library.
-  EXPECT_EQ(std::get<1>(MatDesign::Fields()).target(MatDesign(MatType::Glass, 1)),
+  EXPECT_EQ(GetRow<1>(kFieldsOf<MatDesign>).target(MatDesign(MatType::Glass, 1)),
             CModule::MatGlass);
 }
 

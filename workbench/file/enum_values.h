@@ -11,7 +11,7 @@
 namespace Tarvex::Workbench {
 
 /// Enumerators are looked for from 0 to below this.
-inline constexpr int kEnumRange = 128;
+inline constexpr int kEnumRange = 64;
 
 /// Whether an enumeration has a name for a value. The compiler writes the name into the signature
 /// of this function, or a number (perhaps behind a cast in parentheses) where it has none.

@@ -19,18 +19,18 @@ struct NumberedRecord : Record {
   char const* place = nullptr;  ///< of the number in the text
 };
 
-template <class Target>
-using KeyReader = FieldReader<JsonValue, Target>;
+using KeyReader = FieldReader<JsonValue>;
 
 /// Readers of the number and of all fields of a record.
 template <class Record>
 constexpr auto MakeRecordReaders() {
   using Target = NumberedRecord<Record>;
   constexpr auto kFields = MakeFieldReaders<JsonValue, Record, Target>();
-  std::array<KeyReader<Target>, kFields.size() + 1> readers{};
-  readers[0] = {"n", true, [](JsonValue& in, Target& target) {
-                  target.number = in.Whole(1, kHighestNumber);
-                  target.place = in.Place();
+  std::array<KeyReader, kFields.size() + 1> readers{};
+  readers[0] = {"n", true, [](JsonValue& in, void* target) {
+                  auto& record = *static_cast<Target*>(target);
+                  record.number = in.Whole(1, kHighestNumber);
+                  record.place = in.Place();
                 }};
   std::copy(kFields.begin(), kFields.end(), readers.begin() + 1);
   return readers;
@@ -48,16 +48,14 @@ void ReadVersion(JsonValue& in) {
 }
 
 void ReadUnits(JsonValue& in) {
-  struct Nothing {};
   constexpr auto kCount = ModelFormat::kUnits.size();
   constexpr auto kReaders = []<std::size_t... I>(std::index_sequence<I...>) {
-    return std::array{KeyReader<Nothing>{
-        ModelFormat::kUnits[I].key, true,
-        [](JsonValue& unit, Nothing&) { ExpectText(unit, ModelFormat::kUnits[I].text); }}...};
+    return std::array{KeyReader{ModelFormat::kUnits[I].key, true, [](JsonValue& unit, void*) {
+                                  ExpectText(unit, ModelFormat::kUnits[I].text);
+                                }}...};
   }
   (std::make_index_sequence<kCount>());
-  Nothing nothing;
-  ReadObject(in, kReaders, nothing);
+  ReadKeysInAnyOrder<JsonValue>(in, kReaders, nullptr);
 }
 
 /// Reads the whole of one file into an empty model.
@@ -94,7 +92,7 @@ class ModelReader {
     in.ForEachItem([&](JsonValue& item) {
       NumberedRecord<Record> record;
       ReadObject(item, kReaders, record);
-      CheckFree(table, record.number, record.place);
+      CheckFree(table.module, table.stem, record.number, record.place);
       (m_model.*table.set)(record.number, record, SidMode::Keep);
     });
   }
@@ -108,15 +106,14 @@ class ModelReader {
 
  private:
   /// Fails when a table, or another that shares its numbers, has a record of a number.
-  template <class Row>
-  void CheckFree(Row const& table, int number, char const* place) const {
-    ForEachTable([&](auto const& row) {
-      bool const shares =
-          row.stem == table.stem || (row.module == table.module && row.module != CModule::None);
-      if (!shares || !(m_model.*row.exist)(number)) return;
+  void CheckFree(CModule::ModuleId module, std::string_view stem, int number,
+                 char const* place) const {
+    for (auto const& other : Tables()) {
+      bool const shares = other.stem == stem || (other.module == module && module != CModule::None);
+      if (!shares || !other.exist(m_model, number)) continue;
       throw JsonWalkFault{place, "number " + std::to_string(number) + " occurs twice, first in " +
-                                     std::string(row.stem)};
-    });
+                                     std::string(other.stem)};
+    }
   }
 
   CZelData& m_model;
@@ -127,16 +124,16 @@ class ModelReader {
 template <auto const& Rows, auto Read>
 constexpr auto MakeRowReaders() {
   return []<std::size_t... I>(std::index_sequence<I...>) {
-    return std::array{KeyReader<ModelReader>{
-        std::get<I>(Rows).stem, false,
-        [](JsonValue& in, ModelReader& reader) { Read(reader, in, std::get<I>(Rows)); }}...};
+    return std::array{KeyReader{GetRow<I>(Rows).stem, false, [](JsonValue& in, void* reader) {
+                                  Read(*static_cast<ModelReader*>(reader), in, GetRow<I>(Rows));
+                                }}...};
   }
-  (std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(Rows)>>>());
+  (std::make_index_sequence<Rows.kSize>());
 }
 
 template <class... Arrays>
 constexpr auto Joined(Arrays const&... arrays) {
-  std::array<KeyReader<ModelReader>, (std::tuple_size_v<Arrays> + ...)> all{};
+  std::array<KeyReader, (std::tuple_size_v<Arrays> + ...)> all{};
   auto next = all.begin();
   ((next = std::copy(arrays.begin(), arrays.end(), next)), ...);
   return all;
@@ -144,15 +141,15 @@ constexpr auto Joined(Arrays const&... arrays) {
 
 constexpr auto MakeHeaderReaders() {
   using enum ModelFormat::Key;
-  std::array<KeyReader<ModelReader>, ModelFormat::kHeader.size()> readers{};
+  std::array<KeyReader, ModelFormat::kHeader.size()> readers{};
   for (std::size_t i = 0; i < readers.size(); ++i)
     readers[i] = {ModelFormat::kHeader[i].name, ModelFormat::kHeader[i].required, nullptr};
-  auto constexpr anyText = [](JsonValue& in, ModelReader&) { in.String(); };
+  auto constexpr anyText = [](JsonValue& in, void*) { in.String(); };
   readers[kSchema].read = anyText;
-  readers[kFormat].read = [](JsonValue& in, ModelReader&) { ExpectText(in, ModelFormat::kName); };
-  readers[kVersionKey].read = [](JsonValue& in, ModelReader&) { ReadVersion(in); };
+  readers[kFormat].read = [](JsonValue& in, void*) { ExpectText(in, ModelFormat::kName); };
+  readers[kVersionKey].read = [](JsonValue& in, void*) { ReadVersion(in); };
   readers[kGeneratorKey].read = anyText;
-  readers[kUnitsKey].read = [](JsonValue& in, ModelReader&) { ReadUnits(in); };
+  readers[kUnitsKey].read = [](JsonValue& in, void*) { ReadUnits(in); };
   return readers;
 }
 
@@ -164,7 +161,9 @@ void ModelReader::Read(JsonRoot& root) {
       MakeRowReaders<Registry::kTables, [](ModelReader& reader, JsonValue& in, auto const& row) {
         reader.ReadTable(in, row);
       }>());
-  ReadObject(root, kReaders, *this);
+  static_assert(kReaders.size() <= kMostKeys);
+  ReadKeys<JsonRoot, JsonValue>(root, kReaders, this,
+                                [&](std::size_t at, JsonKey const& key) { BeforeKey(at, key); });
 }
 
 /// The fault of a text that can't be read. A text that is no JSON is told as such, since whatever

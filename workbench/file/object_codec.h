@@ -8,6 +8,7 @@
 #include <array>
 #include <bitset>
 #include <concepts>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,33 +33,34 @@ struct CodecFault {
 
 // Reading.
 
-/// One key of an object and what reads its value into the target.
-template <class Value, class Target>
+/// One key of an object and what reads its value into the target that the object is read into.
+template <class Value>
 struct FieldReader {
   std::string_view name;
   bool required;
-  void (*read)(Value&, Target&);
+  void (*read)(Value&, void* target);
 };
 
 /// Readers of all fields of T into a Target, which is T or derived from it.
 template <class Value, Described T, class Target = T>
 constexpr auto MakeFieldReaders() {
-  constexpr auto kCount = std::tuple_size_v<decltype(T::Fields())>;
   return []<std::size_t... I>(std::index_sequence<I...>) {
-    return std::array<FieldReader<Value, Target>, kCount>{FieldReader<Value, Target>{
-        std::get<I>(T::Fields()).name, std::get<I>(T::Fields()).required,
-        [](Value& in, Target& target) {
-          constexpr auto kField = std::get<I>(T::Fields());
-          Codec<typename decltype(kField)::Value>::Read(in, target.*kField.member);
+    return std::array<FieldReader<Value>, sizeof...(I)>{FieldReader<Value>{
+        GetRow<I>(kFieldsOf<T>).name, GetRow<I>(kFieldsOf<T>).required,
+        [](Value& in, void* target) {
+          using Member = typename std::remove_cvref_t<decltype(GetRow<I>(kFieldsOf<T>))>::Value;
+          T& record = *static_cast<Target*>(target);
+          Codec<Member>::Read(in, record.*GetRow<I>(kFieldsOf<T>).member);
         }}...};
   }
-  (std::make_index_sequence<kCount>());
+  (std::make_index_sequence<kFieldsOf<T>.kSize>());
 }
 
 /// Index of the reader of a key, the number of readers when there is none. Files have the keys of
 /// most records in the order of the fields, so the search goes on from the one that may come next.
-template <class Readers, class Key>
-std::size_t FindReader(Readers const& readers, Key const& key, std::size_t next) {
+template <class Value, class Key>
+std::size_t FindReader(std::span<FieldReader<Value> const> readers, Key const& key,
+                       std::size_t next) {
   for (std::size_t i = next; i < readers.size(); ++i)
     if (key.Is(readers[i].name)) return i;
   for (std::size_t i = 0; i < next; ++i)
@@ -69,6 +71,36 @@ std::size_t FindReader(Readers const& readers, Key const& key, std::size_t next)
   return readers.size();
 }
 
+/// More than any object has, the whole file with one for each table included.
+inline constexpr std::size_t kMostKeys = 256;
+
+/// Reads an object, each key at most once and the required ones at least. Calls before(index, key)
+/// for each key before its value is read.
+template <class Object, class Value, class Before>
+void ReadKeys(Object& in, std::span<FieldReader<Value> const> readers, void* target,
+              Before&& before) {
+  std::bitset<kMostKeys> seen;
+  std::size_t next = 0;
+  in.ForEachField([&](auto const& key, Value& value) {
+    auto const at = FindReader(readers, key, next);
+    if (at == readers.size()) key.Fail("unknown key " + Quoted(key.Text()));
+    if (seen[at]) key.Fail("repeated key " + Quoted(key.Text()));
+    seen.set(at);
+    next = at + 1;
+    before(at, key);
+    readers[at].read(value, target);
+  });
+  for (std::size_t i = 0; i < readers.size(); ++i)
+    if (readers[i].required && !seen[i]) in.Fail("missing key " + Quoted(readers[i].name));
+}
+
+/// The same where the order of the keys does not matter. Not a part of ReadObject, so that it is
+/// compiled once and not for each class of record.
+template <class Value>
+void ReadKeysInAnyOrder(Value& in, std::span<FieldReader<Value> const> readers, void* target) {
+  ReadKeys(in, readers, target, [](std::size_t, auto const&) {});
+}
+
 /// A record that tells what makes it no record that a file may hold, where its fields can't tell
 /// alone.
 template <class T>
@@ -76,24 +108,11 @@ concept TellsFault = requires(T const& record) {
   { record.Fault() } -> std::same_as<CString>;
 };
 
-/// Reads an object, each key at most once and the required ones at least. A target that has
-/// BeforeKey(index, key) is told of each key before its value is read.
-template <class Object, class Value, class Target, std::size_t N>
-void ReadObject(Object& in, std::array<FieldReader<Value, Target>, N> const& readers,
-                Target& target) {
-  std::bitset<N> seen;
-  std::size_t next = 0;
-  in.ForEachField([&](auto const& key, Value& value) {
-    auto const at = FindReader(readers, key, next);
-    if (at == N) key.Fail("unknown key " + Quoted(key.Text()));
-    if (seen[at]) key.Fail("repeated key " + Quoted(key.Text()));
-    seen.set(at);
-    next = at + 1;
-    if constexpr (requires { target.BeforeKey(at, key); }) target.BeforeKey(at, key);
-    readers[at].read(value, target);
-  });
-  for (std::size_t i = 0; i < N; ++i)
-    if (readers[i].required && !seen[i]) in.Fail("missing key " + Quoted(readers[i].name));
+/// Reads an object into a target by the readers that were made for it.
+template <class Value, class Target, std::size_t N>
+void ReadObject(Value& in, std::array<FieldReader<Value>, N> const& readers, Target& target) {
+  static_assert(N <= kMostKeys);
+  ReadKeysInAnyOrder<Value>(in, readers, &target);
   if constexpr (TellsFault<Target>)
     if (auto const fault = target.Fault(); !fault.IsEmpty()) in.Fail(fault.ToUtf8());
 }
@@ -146,20 +165,25 @@ void WriteFields(std::string& out, T const& record) {
 
 // Schema.
 
+/// Adds one key to the schema of an object. @param initial JSON text of its default
+template <class Json>
+void AddKeyToSchema(Json& schema, std::string_view name, bool required, Json entry,
+                    std::string const& initial) {
+  if (required)
+    schema["required"].push_back(name);
+  else
+    entry["default"] = Json::parse(initial);
+  schema["properties"][std::string(name)] = std::move(entry);
+}
+
 /// Adds the fields of T to the schema of an object.
 template <class Json, Described T>
 void AddFieldsToSchema(Json& schema) {
   ForEachField<T>([&](auto const& field) {
     using V = typename std::remove_cvref_t<decltype(field)>::Value;
-    auto entry = Codec<V>::template Schema<Json>();
-    if (field.required) {
-      schema["required"].push_back(field.name);
-    } else {
-      std::string text;
-      WriteValue(text, DefaultOf<T>().*field.member, DefaultOf<T>());
-      entry["default"] = Json::parse(text);
-    }
-    schema["properties"][std::string(field.name)] = std::move(entry);
+    std::string initial;
+    if (!field.required) WriteValue(initial, DefaultOf<T>().*field.member, DefaultOf<T>());
+    AddKeyToSchema(schema, field.name, field.required, Codec<V>::template Schema<Json>(), initial);
   });
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "store/model/zel_data.h"
@@ -17,6 +16,7 @@
 #include "store/record/node_load.h"
 #include "store/record/restraints.h"
 #include "store/record/rigid.h"
+#include "store/record/row_pack.h"
 
 namespace Tarvex::PositionalTablesTest {
 
@@ -48,34 +48,32 @@ struct PlaceRow {
 
 /// Loads and constraints.
 inline auto PlaceRows() {
-  return std::tuple{
-      TARVEX_PLACE_ROW(NodeLoad, 135, CNodeLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(AppliedDisplacement, 136, CNodeLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(Settlement, 137, CNodeLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(BeamLoad, 140, CBeamLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(AxialLoad, 142, CAxialLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(BeamDist, 143, CBeamDist, r.SetValue(4)),
-      TARVEX_PLACE_ROW(BeamThermalLoad, 144, CBeamThermalLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(FaceLoad, 150, CFaceLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(EdgeLoad, 151, CEdgeLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(InPlaneLoad, 152, CInPlaneLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(FaceThermalLoad, 153, CFaceThermalLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(BodyFaceLoad, 155, CBodyFaceLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(BodyThermalLoad, 156, CBodyThermalLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(GridPointLoad, 161, CGridPointLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(GridLineLoad, 162, CGridLineLoad, r.SetValue(1, 4)),
-      TARVEX_PLACE_ROW(GridAreaLoad, 163, CGridAreaLoad, r.SetValue(4)),
-      TARVEX_PLACE_ROW(GravityLoad, 170, CGravityLoad, r.SetFactor({1, 0, 0})),
-      TARVEX_PLACE_ROW(GenRest, -1, CGenRest, r.SetRestraint(Vbool6(L"pin"))),
-      TARVEX_PLACE_ROW(Rigid, -1, CRigid, r.SetPrimaryNode(4)),
-      TARVEX_PLACE_ROW(Joint, -1, CJoint, r.SetPrimaryNode(4)),
-      TARVEX_PLACE_ROW(ConstraintEqn, -1, CConstraintEqn, r.SetConstrainedNode(4)),
-      TARVEX_PLACE_ROW(TiedInterface, -1, CTiedInterface, r.SetName(L"b")),
-      TARVEX_PLACE_ROW(RaftInteraction, -1, CRaftInteraction, r.SetX(4)),
-      TARVEX_PLACE_ROW(PileInteraction, -1, CPileInteraction, r.SetName(L"b")),
-      TARVEX_PLACE_ROW(InfluenceNode, -1, CInfluenceNode, r.SetNode(4)),
-      TARVEX_PLACE_ROW(InfluenceBeam, -1, CInfluenceBeam, r.SetElem(4)),
-  };
+  return MakeRows(TARVEX_PLACE_ROW(NodeLoad, 135, CNodeLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(AppliedDisplacement, 136, CNodeLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(Settlement, 137, CNodeLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(BeamLoad, 140, CBeamLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(AxialLoad, 142, CAxialLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(BeamDist, 143, CBeamDist, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(BeamThermalLoad, 144, CBeamThermalLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(FaceLoad, 150, CFaceLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(EdgeLoad, 151, CEdgeLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(InPlaneLoad, 152, CInPlaneLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(FaceThermalLoad, 153, CFaceThermalLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(BodyFaceLoad, 155, CBodyFaceLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(BodyThermalLoad, 156, CBodyThermalLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(GridPointLoad, 161, CGridPointLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(GridLineLoad, 162, CGridLineLoad, r.SetValue(1, 4)),
+                  TARVEX_PLACE_ROW(GridAreaLoad, 163, CGridAreaLoad, r.SetValue(4)),
+                  TARVEX_PLACE_ROW(GravityLoad, 170, CGravityLoad, r.SetFactor({1, 0, 0})),
+                  TARVEX_PLACE_ROW(GenRest, -1, CGenRest, r.SetRestraint(Vbool6(L"pin"))),
+                  TARVEX_PLACE_ROW(Rigid, -1, CRigid, r.SetPrimaryNode(4)),
+                  TARVEX_PLACE_ROW(Joint, -1, CJoint, r.SetPrimaryNode(4)),
+                  TARVEX_PLACE_ROW(ConstraintEqn, -1, CConstraintEqn, r.SetConstrainedNode(4)),
+                  TARVEX_PLACE_ROW(TiedInterface, -1, CTiedInterface, r.SetName(L"b")),
+                  TARVEX_PLACE_ROW(RaftInteraction, -1, CRaftInteraction, r.SetX(4)),
+                  TARVEX_PLACE_ROW(PileInteraction, -1, CPileInteraction, r.SetName(L"b")),
+                  TARVEX_PLACE_ROW(InfluenceNode, -1, CInfluenceNode, r.SetNode(4)),
+                  TARVEX_PLACE_ROW(InfluenceBeam, -1, CInfluenceBeam, r.SetElem(4)));
 }
 
 #undef TARVEX_PLACE_ROW

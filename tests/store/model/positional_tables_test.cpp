@@ -28,7 +28,7 @@ CZelData AllBut(std::string const& stem) {
     row.change(record);
     if (row.stem != stem) row.set(model, 1, record, SidMode::Keep);
   };
-  std::apply([&](auto const&... row) { (fill(row), ...); }, PlaceRows());
+  PlaceRows().ForEach(fill);
   return model;
 }
 
@@ -44,7 +44,7 @@ void ForEachPlaceRow(Check&& check) {
     record.SetSid(L"id");
     check(row, record, model);
   };
-  std::apply([&](auto const&... row) { (run(row), ...); }, PlaceRows());
+  PlaceRows().ForEach(run);
 }
 
 TEST(PositionalTables, AreThoseOfTheRegistry) {
@@ -257,12 +257,9 @@ ListShortcut const kListShortcuts[] = {
 /// A model with three new records in each table.
 CZelData ThreeOfEach() {
   CZelData model;
-  std::apply(
-      [&](auto const&... row) {
-        for (int n = 1; n <= 3; ++n)
-          (row.set(model, n, RecordOf<decltype(row)>(), SidMode::Keep), ...);
-      },
-      PlaceRows());
+  PlaceRows().ForEach([&](auto const& row) {
+    for (int n = 1; n <= 3; ++n) row.set(model, n, RecordOf<decltype(row)>(), SidMode::Keep);
+  });
   return model;
 }
 

@@ -12,6 +12,7 @@
 #include "store/record/prop_2d.h"
 #include "store/record/prop_3d.h"
 #include "store/record/res_spectrum.h"
+#include "store/record/row_pack.h"
 #include "store/record/section.h"
 #include "store/record/soil.h"
 #include "store/record/spring_prop.h"
@@ -45,7 +46,7 @@ inline auto PropertyRows() {
   using Components = std::vector<CSecComp>;
   using Points = std::vector<Vec2<double>>;
   using Strata = std::vector<GeoSedoStratum>;
-  return std::tuple{
+  return MakeRows(
       TARVEX_ROW(MatSteel, 30, Design::CMatSteel, (L"a"), (L"b")),
       TARVEX_ROW(MatConcrete, 31, Design::CMatConc, (L"a"), (L"b")),
       TARVEX_ROW(MatFrp, 32, Design::CMatFrp, (L"a"), (L"b")),
@@ -79,8 +80,7 @@ inline auto PropertyRows() {
       TARVEX_ROW(RC2DProp, 75, CRC2DProp, (L"a"), (L"b")),
       TARVEX_ROW(SoilZone, -1, GeoSoilZone, (L"a", GeoID(1)), (L"b", GeoID(2))),
       TARVEX_ROW(SoilProfile, -1, GeoSoilProfile, (L"a", Strata(1)), (L"b", Strata())),
-      TARVEX_ROW(ResSpectrum, -1, CResSpectrum, (L"a", 11, 2), (L"b", 15, 3)),
-  };
+      TARVEX_ROW(ResSpectrum, -1, CResSpectrum, (L"a", 11, 2), (L"b", 15, 3)));
 }
 
 #undef TARVEX_ROW

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <tuple>
 
 #include "store/model/zel_data.h"
 #include "store/record/alignment.h"
@@ -16,6 +15,7 @@
 #include "store/record/member.h"
 #include "store/record/node.h"
 #include "store/record/polyline.h"
+#include "store/record/row_pack.h"
 #include "store/record/views.h"
 #include "tests/store/model/property_rows.h"
 #include "tests/store/model/table_row.h"
@@ -42,7 +42,7 @@ using Data::LoadPanel;
 
 /// Entities, grids, groups and views.
 inline auto EntityRows() {
-  return std::tuple{
+  return MakeRows(
       Row<CNode>{"Node", 80, WithSid(CNode({1, 2, 3}, 0, Vbool6())), CNode({4, 5, 6}, 0, Vbool6()),
                  [](CZelData const& m, int n) { return m.NodeExist(n); },
                  [](CZelData const& m, int n) -> CNode const& { return m.Node(n); },
@@ -163,10 +163,9 @@ inline auto EntityRows() {
                    [](CZelData const& m) -> WholeTable<COpView> const& { return m.OpView(); },
                    [](CZelData const& m) { return m.HighestOpView(); },
                    [](CZelData& m, int n, COpView const& r, SidMode s) { m.SetOpView(n, r, s); },
-                   [](CZelData& m, int first, int count) { m.BlankOpView(first, count); }},
-  };
+                   [](CZelData& m, int first, int count) { m.BlankOpView(first, count); }});
 }
 
-inline auto Rows() { return std::tuple_cat(EntityRows(), PropertyRows()); }
+inline auto Rows() { return JoinRows(EntityRows(), PropertyRows()); }
 
 }  // namespace Tarvex::RegistryTest

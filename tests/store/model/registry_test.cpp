@@ -22,7 +22,7 @@ CZelData AllBut(std::string const& stem) {
   auto const fill = [&](auto const& row) {
     if (row.stem != stem) row.set(model, 51 + int(row.stem.size()), row.b, SidMode::Keep);
   };
-  std::apply([&](auto const&... row) { (fill(row), ...); }, Rows());
+  Rows().ForEach(fill);
   return model;
 }
 
@@ -34,7 +34,7 @@ void ForEachRow(Check&& check) {
     auto model = AllBut(row.stem);
     check(row, model);
   };
-  std::apply([&](auto const&... row) { (run(row), ...); }, Rows());
+  Rows().ForEach(run);
 }
 
 TEST(Registry, HasExactlyTheTablesOfThisTest) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <tuple>
 
 #include "store/model/zel_data.h"
 

@@ -9,7 +9,7 @@ namespace {
 
 struct Inner {
   double size = 0;
-  static constexpr auto Fields() { return std::make_tuple(Plain<Inner>("size", &Inner::size)); }
+  static constexpr auto Fields() { return MakeRows(Plain<Inner>("size", &Inner::size)); }
 };
 
 struct Base {
@@ -21,9 +21,8 @@ struct Outer : Base {
   std::vector<int> nodes;
   int unlisted = 0;
   static constexpr auto Fields() {
-    return std::make_tuple(Required<Outer>("number", &Base::number),
-                           Plain<Outer>("inner", &Outer::inner),
-                           Reference<Outer, CModule::Node>("nodes", &Outer::nodes, true));
+    return MakeRows(Required<Outer>("number", &Base::number), Plain<Outer>("inner", &Outer::inner),
+                    Reference<Outer, CModule::Node>("nodes", &Outer::nodes, true));
   }
 };
 
@@ -74,7 +73,9 @@ TEST(Same, ComparesTheDescribedFieldsOfARecordAndNoOther) {
 }
 
 TEST(Fields, SayWhatIsRequiredAndWhatPointsWhere) {
-  auto const [number, inner, nodes] = Outer::Fields();
+  auto const& number = GetRow<0>(kFieldsOf<Outer>);
+  auto const& inner = GetRow<1>(kFieldsOf<Outer>);
+  auto const& nodes = GetRow<2>(kFieldsOf<Outer>);
   EXPECT_EQ(number.name, "number");
   EXPECT_TRUE(number.required);
   EXPECT_EQ(number.target, nullptr);

@@ -10,7 +10,7 @@
 namespace Tarvex::Workbench::EnumValuesTest {
 namespace {
 
-enum class Gaps { Two = 2, Seven = 7, Last = 127 };
+enum class Gaps { Two = 2, Seven = 7, Last = 63 };
 enum Plain : int { kFirst = 0, kThird = 2 };
 
 template <class E>
@@ -20,7 +20,7 @@ std::vector<int> ValuesOf() {
 }
 
 TEST(EnumValues, AreTheEnumeratorsInAscendingOrder) {
-  EXPECT_EQ(ValuesOf<Gaps>(), (std::vector{2, 7, 127}));
+  EXPECT_EQ(ValuesOf<Gaps>(), (std::vector{2, 7, 63}));
   EXPECT_EQ(ValuesOf<Plain>(), (std::vector{0, 2}));
   EXPECT_EQ(ValuesOf<AxisType>(), (std::vector{1, 2, 3}));
   EXPECT_EQ(ValuesOf<AutoOffset>(), (std::vector{0, 1}));
