@@ -461,7 +461,7 @@ def member_records(members, number, element_number):
             e["parentMember"] = {"member": n}
         made["topology"] = " ".join(str(number.get(item, item)) for item in made["topology"])
         made["children"] = [[0, element_number[id(e)]] for e in children]
-        records.append({"n": n} | {k: made[k] for k in MEMBER_FIELDS if k in made and (k, made[k]) != ("property", 1)})
+        records.append({"n": n} | {k: made[k] for k in MEMBER_FIELDS if k in made and (k, made[k]) != ("property", 0)})
     return records
 
 
@@ -487,7 +487,7 @@ def model():
     elements = []
     for block in blocks.values():
         for e in block:
-            fields = {k: v for k, v in e.items() if (k, v) not in (("property", 1), ("longPosition", [0, 1]))}
+            fields = {k: v for k, v in e.items() if (k, v) not in (("property", 0), ("longPosition", [0, 1]))}
             elements.append({"n": element_number[id(e)]} | fields | {"topology": [number[p] for p in e["topology"]]})
     panels = [e for e in elements if "type" not in e]
     axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}

@@ -53,9 +53,7 @@ std::array<CEntList const*, 2> ListsOf(ModelState const& state, NodeNaming::Reco
 }
 
 bool ActsIn(CZelData const& model, CEntList const& stages, int stage) {
-  if (stage == -1) return true;
-  int const highest = std::max(stage, model.HighestRecord(CModule::AnalStage));
-  return Util::IsItemIncluded(stages, {SelNone, stage}, model, highest);
+  return stage == -1 || NamesStage(model, stages, stage);
 }
 
 bool ListsNode(CZelData const& model, NodeNaming::Record const& record, int node) {

@@ -1,5 +1,6 @@
 #include "store/model/grid_load_tables.h"
 
+#include "store/model/load_case_use.h"
 #include "store/model/model_core.h"
 #include "store/model/table_ops.h"
 
@@ -16,10 +17,10 @@ namespace Tarvex {
   }                                                                                     \
   int GridLoadTables::Highest##Stem() const { return m_core.state.table.Highest(); }    \
   void GridLoadTables::Set##Stem(int n, Data::Record const& record, SidMode sid) {      \
-    TableOps::Store(m_core.state.table, n, record, sid);                                \
+    TableOps::StoreLoad(m_core.loadCases, m_core.state.table, n, record, sid);          \
   }                                                                                     \
   void GridLoadTables::Delete##Stem(int first, int count) {                             \
-    m_core.state.table.Remove(first, count);                                            \
+    TableOps::RemoveLoads(m_core.loadCases, m_core.state.table, first, count);          \
   }
 
 TARVEX_DEFINE_TABLE(GridPointLoad, CGridPointLoad, gridPointLoad)

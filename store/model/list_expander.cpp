@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "store/model/zel_data.h"
+#include "store/record/cases.h"
+#include "store/record/task_slot.h"
 #include "store/select/case_tokens.h"
 #include "store/select/list_scan.h"
 
@@ -32,24 +34,20 @@ int ReadsOf(Data::ListTokens const& tokens) {
   return reads;
 }
 
-/// Where each kind of cases has its records.
-struct CaseTable {
-  CaseOp kind;
-  CModule::ModuleId module;
-};
-constexpr std::array kCaseTables{CaseTable{CaseOp::Load, CModule::LoadCaseTitle},
-                                 CaseTable{CaseOp::Analysis, CModule::AnalysisCase},
-                                 CaseTable{CaseOp::Combination, CModule::CombinationCase},
-                                 CaseTable{CaseOp::Task, CModule::AnalysisTask}};
-
+/// The load cases, analysis cases, combinations and tasks that exist.
 Intervals AllCases(CZelData const& model) {
   Intervals all;
-  for (auto const& table : kCaseTables)
-    for (int n = 1; n <= model.HighestRecord(table.module); ++n)
-      if (model.RecordExist(table.module, n)) {
-        int const token = Data::CaseToken({table.kind, n});
-        all.Append({token, token});
-      }
+  auto const add = [&](CaseOp kind, int number) {
+    int const token = Data::CaseToken({kind, number});
+    all.Append({token, token});
+  };
+  auto const addAll = [&](CaseOp kind, auto const& table) {
+    for (int n = table.Next(0); n != 0; n = table.Next(n)) add(kind, n);
+  };
+  for (auto const& [number, type] : model.LoadCaseTypes()) add(CaseOp::Load, number);
+  addAll(CaseOp::Analysis, model.AnalysisCases());
+  addAll(CaseOp::Combination, model.CombinationCase());
+  addAll(CaseOp::Task, model.AnalysisTask());
   return all;
 }
 

@@ -1,5 +1,6 @@
 #include "store/model/load_tables.h"
 
+#include "store/model/load_case_use.h"
 #include "store/model/model_core.h"
 #include "store/model/table_ops.h"
 
@@ -13,19 +14,22 @@ namespace Tarvex {
   }                                                                                              \
   std::vector<Data::Record> const& LoadTables::Stem() const { return m_core.state.table.All(); } \
   int LoadTables::Highest##Stem() const { return m_core.state.table.Highest(); }                 \
-  void LoadTables::Delete##Stem(int first, int count) { m_core.state.table.Remove(first, count); }
+  void LoadTables::Delete##Stem(int first, int count) {                                          \
+    TableOps::RemoveLoads(m_core.loadCases, m_core.state.table, first, count);                   \
+  }
 
 // Storing. A node load is told the table that it stands in.
 #define TARVEX_DEFINE_TABLE(Stem, Record, table)                               \
   TARVEX_DEFINE_READING(Stem, Record, table)                                   \
   void LoadTables::Set##Stem(int n, Data::Record const& record, SidMode sid) { \
-    TableOps::Store(m_core.state.table, n, record, sid);                       \
+    TableOps::StoreLoad(m_core.loadCases, m_core.state.table, n, record, sid); \
   }
 
 #define TARVEX_DEFINE_NODE_TABLE(Stem, table)                                     \
   TARVEX_DEFINE_READING(Stem, CNodeLoad, table)                                   \
   void LoadTables::Set##Stem(int n, Data::CNodeLoad const& record, SidMode sid) { \
-    TableOps::Store(m_core.state.table, n, record, sid).SetModule(CModule::Stem); \
+    TableOps::StoreLoad(m_core.loadCases, m_core.state.table, n, record, sid)     \
+        .SetModule(CModule::Stem);                                                \
   }
 
 TARVEX_DEFINE_NODE_TABLE(NodeLoad, nodeLoad)

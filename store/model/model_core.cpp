@@ -40,6 +40,7 @@ void ModelCore::Restore(ModelState other) {
     }
   }
   if (other.member.Revision() != state.member.Revision()) children.Reset();
+  loadCases.Forget();
   state = std::move(other);
 }
 

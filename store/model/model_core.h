@@ -10,6 +10,7 @@
 
 #include "store/model/child_index.h"
 #include "store/model/list_cache.h"
+#include "store/model/load_case_use.h"
 #include "store/model/node_naming.h"
 #include "store/model/zel_data.h"
 #include "store/numeric/box.h"
@@ -20,6 +21,7 @@
 #include "store/record/beam_loads.h"
 #include "store/record/block.h"
 #include "store/record/body_loads.h"
+#include "store/record/cases.h"
 #include "store/record/constraint_eqn.h"
 #include "store/record/element.h"
 #include "store/record/ent_list.h"
@@ -33,6 +35,7 @@
 #include "store/record/interactions.h"
 #include "store/record/joint.h"
 #include "store/record/link_prop.h"
+#include "store/record/load_case_title.h"
 #include "store/record/load_panel.h"
 #include "store/record/mass_prop.h"
 #include "store/record/mat_anal.h"
@@ -52,6 +55,8 @@
 #include "store/record/soil.h"
 #include "store/record/spec.h"
 #include "store/record/spring_prop.h"
+#include "store/record/stages.h"
+#include "store/record/task_slot.h"
 #include "store/record/views.h"
 #include "store/table/history.h"
 #include "store/table/paged_table.h"
@@ -104,6 +109,15 @@ struct ModelState {
   PagedTable<Data::GeoSoilZone> soilZone;
   PagedTable<Data::GeoSoilProfile> soilProfile;
   PagedTable<Data::CResSpectrum> resSpectrum;
+  PagedTable<Data::CLoadCaseTitle> loadCaseTitle;
+  PagedTable<Data::CAnalStage> analStage;
+  PagedTable<Data::CAnalStageProp> analStageProp;
+  PagedTable<Data::CAnalStageMat> analStageMat;
+  PagedTable<Zel::TaskSlot> analysisTask;
+  PagedTable<Data::CCombinationCase> combinationCase;
+  PagedTable<CDesignTask> designTask;
+  PagedTable<Zel::CAnalysisCase> analysisCase;
+  PagedTable<Data::CCaseDescription> caseDescription;
   PositionalTable<Data::CNodeLoad> nodeLoad;
   PositionalTable<Data::CNodeLoad> appliedDisplacement;
   PositionalTable<Data::CNodeLoad> settlement;
@@ -132,6 +146,7 @@ struct ModelState {
   PositionalTable<Data::CInfluenceBeam> influenceBeam;
   Data::CSpec spec;
   Data::CDefaults defaults;
+  Data::CRaftSpec raftSpec;
 
   /// Attachments of nodes that topology names and that do not exist; shared between states.
   using Waiting = std::map<int, Data::NodeUseAccess::Pointer>;
@@ -178,6 +193,9 @@ class ModelCore {
 
   /// What names nodes beside topology.
   NodeNaming naming;
+
+  /// Which load cases the loads belong to.
+  LoadCaseUse loadCases;
 
   /// Where the nodes are; built by the first query and followed from then on.
   std::optional<Util::PointIndex> positions;

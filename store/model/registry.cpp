@@ -39,13 +39,17 @@ struct ModuleRows {
 };
 
 /// Load panels share the module of the elements: as a module the two are emptied together, and only
-/// elements count as existing.
+/// elements count as existing. A load case exists by its loads too.
 constexpr ModuleRows MakeModules() {
   ModuleRows modules;
   for (auto row : kTableRows) {
     if (row.module == CModule::None || modules.Knows(row.module)) continue;
     if (row.module == CModule::Elem)
       row.clear = [](CZelData& model) { model.BlankVariantElement(1, kAll); };
+    if (row.module == CModule::LoadCaseTitle) {
+      row.exist = [](CZelData const& model, int n) { return model.LoadCaseExist(n); };
+      row.highest = [](CZelData const& model) { return model.HighestLoadCase(); };
+    }
     modules.rows[modules.size++] = row;
   }
   return modules;

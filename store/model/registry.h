@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "store/export.h"
+#include "store/model/case_rows.h"
 #include "store/model/positional_rows.h"
 #include "store/model/table_row.h"
 #include "store/model/zel_data.h"
@@ -32,6 +33,7 @@
 #include "store/record/polyline.h"
 #include "store/record/prop_2d.h"
 #include "store/record/prop_3d.h"
+#include "store/record/record_classes.h"
 #include "store/record/res_spectrum.h"
 #include "store/record/section.h"
 #include "store/record/soil.h"
@@ -54,7 +56,8 @@ namespace Registry {
 
 inline constexpr auto kOneOffs =
     MakeRows(OneOffRow<Data::CSpec>{"Spec", &CZelData::Spec, &CZelData::SetSpec},
-             OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults});
+             OneOffRow<Data::CDefaults>{"Defaults", &CZelData::Defaults, &CZelData::SetDefaults},
+             OneOffRow<Data::CRaftSpec>{"RaftSpec", &CZelData::RaftSpec, &CZelData::SetRaftSpec});
 
 inline constexpr auto kSparseTables = MakeRows(
     TableRow<Data::CNode>{CModule::Node, "Node", TableShape::Sparse, RemovalForm::Blank,
@@ -224,7 +227,7 @@ inline constexpr auto kSparseTables = MakeRows(
         &CZelData::HighestResSpectrum, &CZelData::SetResSpectrum, &CZelData::BlankResSpectrum});
 
 /// All tables.
-inline constexpr auto kTables = JoinRows(kSparseTables, kPositionalTables);
+inline constexpr auto kTables = JoinRows(kSparseTables, kPositionalTables, kCaseTables);
 
 }  // namespace Registry
 

@@ -45,9 +45,11 @@ CZelData::CZelData()
       GridLoadTables(*m_owned),
       ConstraintTables(*m_owned),
       PropertyTables(*m_owned),
+      CaseTables(*m_owned),
       EntityQueries(*m_owned),
       GridQueries(*m_owned, *this),
-      ConstraintQueries(*m_owned, *this) {}
+      ConstraintQueries(*m_owned, *this),
+      StageQueries(*m_owned, *this) {}
 
 CZelData::CZelData(CZelData const& other)
     : ModelBase(other),
@@ -59,9 +61,11 @@ CZelData::CZelData(CZelData const& other)
       GridLoadTables(*m_owned),
       ConstraintTables(*m_owned),
       PropertyTables(*m_owned),
+      CaseTables(*m_owned),
       EntityQueries(*m_owned),
       GridQueries(*m_owned, *this),
-      ConstraintQueries(*m_owned, *this) {}
+      ConstraintQueries(*m_owned, *this),
+      StageQueries(*m_owned, *this) {}
 
 CZelData& CZelData::operator=(CZelData const& other) {
   ModelBase::operator=(other);
@@ -74,6 +78,10 @@ Data::CSpec const& CZelData::Spec() const { return m_owned->state.spec; }
 void CZelData::SetSpec(Data::CSpec const& spec) { m_owned->state.spec = spec; }
 Data::CDefaults const& CZelData::Defaults() const { return m_owned->state.defaults; }
 void CZelData::SetDefaults(Data::CDefaults const& defaults) { m_owned->state.defaults = defaults; }
+Data::CRaftSpec const& CZelData::RaftSpec() const { return m_owned->state.raftSpec; }
+void CZelData::SetRaftSpec(Data::CRaftSpec const& spec) { m_owned->state.raftSpec = spec; }
+StrType CZelData::StructType() const { return Spec().StructType(); }
+Vbool6 CZelData::GlobalRestraint() const { return Spec().GlobalRestraint(); }
 
 int CZelData::HighestEnt(SelType kind) const { return HighestRecord(EntModId(kind)); }
 

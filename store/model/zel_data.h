@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "store/export.h"
+#include "store/model/case_tables.h"
 #include "store/model/constraint_queries.h"
 #include "store/model/constraint_tables.h"
 #include "store/model/entity_queries.h"
@@ -16,6 +17,7 @@
 #include "store/model/load_tables.h"
 #include "store/model/member_tables.h"
 #include "store/model/property_tables.h"
+#include "store/model/stage_queries.h"
 #include "store/numeric/box.h"
 #include "store/record/spec.h"
 #include "store/select/reference.h"
@@ -61,9 +63,11 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
                                      public GridLoadTables,
                                      public ConstraintTables,
                                      public PropertyTables,
+                                     public CaseTables,
                                      public EntityQueries,
                                      public GridQueries,
-                                     public ConstraintQueries {
+                                     public ConstraintQueries,
+                                     public StageQueries {
  public:
   using EntAt = Tarvex::EntAt;
 
@@ -77,6 +81,12 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
   void SetSpec(Data::CSpec const& spec);
   Data::CDefaults const& Defaults() const;
   void SetDefaults(Data::CDefaults const& defaults);
+  Data::CRaftSpec const& RaftSpec() const;
+  void SetRaftSpec(Data::CRaftSpec const& spec);
+  /// What kind of structure the model is.
+  StrType StructType() const;
+  /// Directions that no node of the model moves in.
+  Vbool6 GlobalRestraint() const;
 
   // Access by kind. Kinds without entities of their own have none.
   /// Highest number of a kind; for elements it covers load panels.

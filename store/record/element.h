@@ -108,7 +108,7 @@ class TARVEX_STORE_EXPORT CElement : public NamedEntity {
  private:
   ElementType m_type = ElementType::None;
   int m_group = 1;
-  int m_property = 1;
+  int m_property = 0;  // none
   int m_orientationNode = 0;
   TopoVector m_topology;
   double m_orientationAngle = 0;

@@ -50,7 +50,7 @@ class LoadPanel : public NamedEntity {
 
  private:
   int m_group = 1;
-  int m_property = 1;
+  int m_property = 0;  // none
   TopoVector m_topology;
   double m_orientationAngle = 0;
   Tarvex::Data::ParentMember m_parentMember;

@@ -153,7 +153,7 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
 
   MembType m_type = MembType::Generic;
   int m_group = 1;
-  int m_property = 1;
+  int m_property = 0;  // none
   CTopoList m_topology;
   int m_orientationNode = 0;
   double m_orientationAngle = 0;

@@ -57,4 +57,20 @@ void CSpec::SetGenTol(TolType type, double value) {
   *target = value;
 }
 
+Vbool6 CSpec::GlobalRestraint() const {
+  switch (m_structType) {
+    case StrType::Space:
+      break;
+    case StrType::PlaneXZ:
+      return Vbool6(false, true, false, true, false, true);
+    case StrType::GridXY:
+      return Vbool6(true, true, false, false, false, true);
+    case StrType::PlaneStress:
+    case StrType::PlaneStrain:
+    case StrType::AxiSymmetric:
+      return Vbool6(false, false, true, true, true, true);
+  }
+  return Vbool6();
+}
+
 }  // namespace Tarvex::Data

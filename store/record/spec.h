@@ -2,7 +2,9 @@
 #pragma once
 
 #include "store/export.h"
+#include "store/numeric/vbool6.h"
 #include "store/record/field.h"
+#include "store/record/struct_type.h"
 #include "store/text/cstring.h"
 
 namespace Tarvex {
@@ -54,9 +56,31 @@ struct GenTolerances {
   }
 };
 
+/// A country, by the number that recorded work uses for it.
+class CCountry {
+ public:
+  CCountry() = default;
+  explicit CCountry(int code) : m_code(code) {}
+
+  /// 0 where none is said.
+  int GetCode() const { return m_code; }
+
+  friend bool operator==(CCountry const&, CCountry const&) = default;
+  static constexpr auto Fields() { return MakeRows(Plain<CCountry>("code", &CCountry::m_code)); }
+
+ private:
+  int m_code = 0;
+};
+
 /// Specification of the model.
 class TARVEX_STORE_EXPORT CSpec {
  public:
+  /// What becomes of the mass of elements.
+  enum class MassOp : int {
+    Ignored = 0,
+    Lumped = 1,  ///< at the nodes
+  };
+
   /// A general tolerance; without argument the one for coincident points.
   double GenTol(TolType type = TolType::Coincidence) const;
   /// Throws std::invalid_argument for a value below 0 or not finite, or an unknown type.
@@ -69,16 +93,49 @@ class TARVEX_STORE_EXPORT CSpec {
   int ConsGridRef() const { return m_consGridRef; }
   void SetConsGridRef(int plane) { m_consGridRef = plane; }
 
+  /// Where the structure stands.
+  CCountry Country() const { return m_country; }
+  void SetCountry(CCountry country) { m_country = country; }
+  /// Height of the global origin above sea level, model length units.
+  double ZElevation() const { return m_zElevation; }
+  void SetZElevation(double elevation) { m_zElevation = elevation; }
+  StrType StructType() const { return m_structType; }
+  void SetStructType(StrType type) { m_structType = type; }
+  /// Directions that no node moves in, by the kind of structure.
+  Vbool6 GlobalRestraint() const;
+
   friend bool operator==(CSpec const& a, CSpec const& b) { return Same(a, b); }
   static constexpr auto Fields() {
     return MakeRows(Plain<CSpec>("genTol", &CSpec::m_genTol), Plain<CSpec>("unit", &CSpec::m_unit),
-                    Reference<CSpec, CModule::GridPlane>("consGridRef", &CSpec::m_consGridRef));
+                    Reference<CSpec, CModule::GridPlane>("consGridRef", &CSpec::m_consGridRef),
+                    Plain<CSpec>("country", &CSpec::m_country),
+                    Plain<CSpec>("zElevation", &CSpec::m_zElevation),
+                    Plain<CSpec>("structType", &CSpec::m_structType));
   }
 
  private:
+  CCountry m_country;
+  double m_zElevation = 0;
+  StrType m_structType = StrType::Space;
   GenTolerances m_genTol;
   CUnit m_unit;
   int m_consGridRef = 0;
+};
+
+/// Specification of rafts on soil.
+class CRaftSpec {
+ public:
+  /// Level of the surface of the soil, model length units.
+  double TopLevel() const { return m_topLevel; }
+  void SetTopLevel(double level) { m_topLevel = level; }
+
+  friend bool operator==(CRaftSpec const& a, CRaftSpec const& b) { return Same(a, b); }
+  static constexpr auto Fields() {
+    return MakeRows(Plain<CRaftSpec>("topLevel", &CRaftSpec::m_topLevel));
+  }
+
+ private:
+  double m_topLevel = 0;
 };
 
 /// Names that new records get; '#' stands for the number.

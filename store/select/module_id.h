@@ -10,6 +10,7 @@ struct CModule {
     None = -1,         ///< no table, or a table without a number of its own
     Storey = -2,       ///< no table: storeys are numbered by the grid planes that are one
     SoilProfile = -3,  ///< soil profiles, whose table has no number
+    ResSpectrum = -4,  ///< response spectra, whose table has no number
     Axis = 20,
     GridPlane = 23,
     GridSurface = 24,

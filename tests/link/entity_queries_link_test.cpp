@@ -44,7 +44,8 @@ TEST(EntityQueriesLink, QueriesOfReferences) {
   EXPECT_EQ(model.EntCoor(quad, 1).x, 2);
   EXPECT_EQ(model.EntOffset(quad, 0).z, 0);
   EXPECT_EQ(model.EntOffset(quad), Data::COffset());
-  EXPECT_EQ(model.EntProperty(quad, 0), 1);
+  model.SetElemProperty(1, 4);
+  EXPECT_EQ(model.EntProperty(quad, 0), 4);
   EXPECT_EQ(model.Normal(1).z, 1);
 }
 

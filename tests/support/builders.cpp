@@ -22,7 +22,7 @@ int Add(CZelData& model, Data::VariantElementValue const& entity) {
 }  // namespace
 
 Data::CElement Element(ElementType type, std::vector<int> const& nodes) {
-  Data::CElement element(1, type, 1);
+  Data::CElement element(1, type, 0);
   element.SetTopo(nodes);
   return element;
 }
@@ -57,7 +57,7 @@ int PanelAt(CZelData& model, Points const& points) {
 }
 
 int MemberAt(CZelData& model, MembType type, wchar_t const* topology) {
-  Data::CMember member(type, 1, 1);
+  Data::CMember member(type, 1, 0);
   if (!member.SetTopo(CString(topology))) throw std::invalid_argument("no topology");
   int const n = model.HighestMember() + 1;
   model.SetMember(n, member);

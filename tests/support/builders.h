@@ -1,6 +1,6 @@
 // Small models in few words.
 //
-// What is added to a model takes the next free number and has group 1 and property 1. Builders
+// What is added to a model takes the next free number and has group 1 and no property. Builders
 // that add one thing return its number.
 #pragma once
 

@@ -26,8 +26,11 @@ using Lines = std::vector<std::string>;
 template <class Record>
 std::string FieldList(Record const& after, Record const& before) {
   std::string list;
-  for (auto const& name : ChangedFields(after, before)) list += (list.empty() ? "" : ", ") + name;
-  return list;
+  bool const alike =
+      RecordClasses<Record>::TakeTwo(after, before, [&](auto const& a, auto const& b) {
+        for (auto const& name : ChangedFields(a, b)) list += (list.empty() ? "" : ", ") + name;
+      });
+  return alike ? list : "class";
 }
 
 template <class Row>

@@ -9,6 +9,7 @@
 #include "store/record/ent_list.h"
 #include "store/record/node.h"
 #include "tests/support/plain_list.h"
+#include "tests/support/random_cases.h"
 #include "tests/support/random_grids.h"
 #include "tests/support/random_loads.h"
 #include "tests/support/random_members.h"
@@ -57,6 +58,7 @@ class Maker {
     AddRandomGrids(m_model, m_random);
     AddRandomLoads(m_model, m_random);
     AddRandomProperties(m_model, m_random);
+    AddRandomCases(m_model, m_random);
     return m_model;
   }
 

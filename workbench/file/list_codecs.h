@@ -8,7 +8,7 @@
 
 #include "store/record/connection.h"
 #include "store/record/member.h"
-#include "workbench/file/object_codec.h"
+#include "workbench/file/scalar_codecs.h"
 
 namespace Tarvex::Workbench {
 
@@ -107,6 +107,21 @@ struct Codec<T> {
   template <class Json>
   static Json Schema() {
     return {{"type", "array"}, {"items", Codec<Item>::template Schema<Json>()}};
+  }
+};
+
+/// A set, ascending; a repeated number in a file counts once.
+template <>
+struct Codec<std::set<int>> {
+  template <class Value>
+  static void Read(Value& in, std::set<int>& items) {
+    items.clear();
+    in.ForEachItem([&](Value& value) { items.insert(value.Whole()); });
+  }
+  static void Write(std::string& out, std::set<int> const& items) { WriteItems(out, items); }
+  template <class Json>
+  static Json Schema() {
+    return {{"type", "array"}, {"items", Codec<int>::Schema<Json>()}};
   }
 };
 

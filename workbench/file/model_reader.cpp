@@ -8,6 +8,7 @@
 #include "workbench/file/json_value.h"
 #include "workbench/file/model_format.h"
 #include "workbench/file/read_file.h"
+#include "workbench/file/task_reader.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -94,6 +95,16 @@ class ModelReader {
       ReadObject(item, kReaders, record);
       CheckFree(table.module, table.stem, record.number, record.place);
       (m_model.*table.set)(record.number, record, SidMode::Keep);
+    });
+  }
+
+  /// Tasks: the class stands before the fields, since it tells which these are.
+  void ReadTable(JsonValue& in, TableRow<Zel::TaskSlot> const& table) {
+    in.ForEachItem([&](JsonValue& item) {
+      TaskReader reader;
+      reader.Read(item);
+      CheckFree(table.module, table.stem, reader.Number(), reader.Place());
+      m_model.SetAnalysisTask(reader.Number(), reader.Task());
     });
   }
 

@@ -49,6 +49,24 @@ Json RecordSchema(TableShape shape) {
   return schema;
 }
 
+/// Schema of the records of a table of several classes: each names its class.
+template <class Row>
+Json TableSchema(Row const& row) {
+  using Record = typename Row::Record;
+  if constexpr (!RecordClasses<Record>::kSeveral) {
+    return RecordSchema<Record>(row.shape);
+  } else {
+    auto schemas = Json::array();
+    RecordClasses<Record>::ForEach([&]<class Class>(Class*) {
+      auto schema = RecordSchema<Class>(row.shape);
+      schema["required"].push_back("class");
+      schema["properties"]["class"] = Fixed(Class::kClass);
+      schemas.push_back(std::move(schema));
+    });
+    return {{"oneOf", std::move(schemas)}};
+  }
+}
+
 /// Objects need not say that nothing is required of them.
 void DropEmptyRequired(Json& schema) {
   if (schema.is_object() && schema.contains("required") && schema["required"].empty())
@@ -74,10 +92,8 @@ std::string ModelSchema() {
     schema["properties"][stem] = define(stem, Codec<Record>::template Schema<Json>());
   });
   ForEachTable([&](auto const& row) {
-    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
     std::string const stem(row.stem);
-    schema["properties"][stem] = {{"type", "array"},
-                                  {"items", define(stem, RecordSchema<Record>(row.shape))}};
+    schema["properties"][stem] = {{"type", "array"}, {"items", define(stem, TableSchema(row))}};
   });
   DropEmptyRequired(schema);
   return schema.dump(2) + "\n";

@@ -43,12 +43,19 @@ void WriteTable(std::string& out, Row const& row, CZelData const& model) {
   char const* separator = "[\n    ";
   ForEachRecord(table, [&](int number, auto const& record) {
     out += separator;
-    BeginObject(out, record);
-    if (row.shape == TableShape::Sparse) {
-      WriteKey(out, "n");
-      AppendJsonNumber(out, number);
-    }
-    WriteFields(out, record);
+    using Classes = RecordClasses<typename Row::Record>;
+    Classes::Take(record, [&]<class Class>(Class const& object) {
+      BeginObject(out, object);
+      if (row.shape == TableShape::Sparse) {
+        WriteKey(out, "n");
+        AppendJsonNumber(out, number);
+      }
+      if constexpr (Classes::kSeveral) {
+        WriteKey(out, "class");
+        AppendJsonString(out, Class::kClass);
+      }
+      WriteFields(out, object);
+    });
     out += '}';
     separator = ",\n    ";
   });

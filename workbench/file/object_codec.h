@@ -74,24 +74,49 @@ std::size_t FindReader(std::span<FieldReader<Value> const> readers, Key const& k
 /// More than any object has, the whole file with one for each table included.
 inline constexpr std::size_t kMostKeys = 256;
 
-/// Reads an object, each key at most once and the required ones at least. Calls before(index, key)
-/// for each key before its value is read.
+/// The keys of one object as they come: each at most once and the required ones at least.
+template <class Value>
+class KeyWalk {
+ public:
+  KeyWalk(std::span<FieldReader<Value> const> readers, void* target)
+      : m_readers(readers), m_target(target) {}
+
+  /// Reads the value of a key. Calls before(index, key) first.
+  template <class Key, class Before>
+  void Take(Key const& key, Value& value, Before&& before) {
+    auto const at = FindReader(m_readers, key, m_next);
+    if (at == m_readers.size()) key.Fail("unknown key " + Quoted(key.Text()));
+    if (m_seen[at]) key.Fail("repeated key " + Quoted(key.Text()));
+    m_seen.set(at);
+    m_next = at + 1;
+    before(at, key);
+    m_readers[at].read(value, m_target);
+  }
+  template <class Key>
+  void Take(Key const& key, Value& value) {
+    Take(key, value, [](std::size_t, Key const&) {});
+  }
+  /// Fails when a required key did not come.
+  template <class Object>
+  void Finish(Object& in) const {
+    for (std::size_t i = 0; i < m_readers.size(); ++i)
+      if (m_readers[i].required && !m_seen[i]) in.Fail("missing key " + Quoted(m_readers[i].name));
+  }
+
+ private:
+  std::span<FieldReader<Value> const> m_readers;
+  void* m_target;
+  std::bitset<kMostKeys> m_seen;
+  std::size_t m_next = 0;
+};
+
+/// Reads an object. Calls before(index, key) for each key before its value is read.
 template <class Object, class Value, class Before>
 void ReadKeys(Object& in, std::span<FieldReader<Value> const> readers, void* target,
               Before&& before) {
-  std::bitset<kMostKeys> seen;
-  std::size_t next = 0;
-  in.ForEachField([&](auto const& key, Value& value) {
-    auto const at = FindReader(readers, key, next);
-    if (at == readers.size()) key.Fail("unknown key " + Quoted(key.Text()));
-    if (seen[at]) key.Fail("repeated key " + Quoted(key.Text()));
-    seen.set(at);
-    next = at + 1;
-    before(at, key);
-    readers[at].read(value, target);
-  });
-  for (std::size_t i = 0; i < readers.size(); ++i)
-    if (readers[i].required && !seen[i]) in.Fail("missing key " + Quoted(readers[i].name));
+  KeyWalk<Value> walk(readers, target);
+  in.ForEachField([&](auto const& key, Value& value) { walk.Take(key, value, before); });
+  walk.Finish(in);
 }
 
 /// The same where the order of the keys does not matter. Not a part of ReadObject, so that it is

@@ -6,6 +6,8 @@
 
 #include "store/model/registry.h"
 #include "store/model/saved_lists.h"
+#include "store/record/case_refs.h"
+#include "store/select/case_tokens.h"
 #include "store/select/list_grammar.h"
 #include "store/select/list_scan.h"
 
@@ -27,23 +29,20 @@ class Targets {
   explicit Targets(CZelData const& model)
       : m_model(model),
         m_storeys{"Storey", [&model](int n) { return model.GridPlaneStorey(n) != 0; }},
-        m_soilProfiles{"SoilProfile", [&model](int n) { return model.SoilProfileExist(n); }} {
-    ForEachTable([&](auto const& row) {
-      if (row.module == CModule::None) return;
+        m_soilProfiles{"SoilProfile", [&model](int n) { return model.SoilProfileExist(n); }},
+        m_spectra{"ResSpectrum", [&model](int n) { return model.ResSpectrumExist(n); }} {
+    for (auto const& row : Modules()) {
       auto& target = m_targets[static_cast<std::size_t>(row.module)];
-      if (target.stem.empty()) target.stem = row.stem;
-      target.exists = [&model, &row, before = target.exists](int n) {
-        return (model.*row.exist)(n) || before(n);
-      };
-    });
-    if (!HoldsProperties(model))
-      std::fill(m_targets.begin() + CModule::MatSteel, m_targets.begin() + CModule::RC2DProp + 1,
-                m_none);
+      target.stem = row.stem;
+      target.exists = [&model, &row](int n) { return row.exist(model, n); };
+    }
+    m_targets[CModule::Elem].exists = [&model](int n) { return model.VariantElementExist(n); };
   }
 
   Target const& Of(CModule::ModuleId module) const {
     if (module == CModule::Storey) return m_storeys;
     if (module == CModule::SoilProfile) return m_soilProfiles;
+    if (module == CModule::ResSpectrum) return m_spectra;
     auto const i = static_cast<std::size_t>(module);
     return i < m_targets.size() ? m_targets[i] : m_none;
   }
@@ -57,20 +56,11 @@ class Targets {
  private:
   static constexpr std::size_t kModules = 512;  // above every number of a table
 
-  /// Whether a model has any material or property. Numbers of properties in one that is geometry
-  /// alone name what stands elsewhere.
-  static bool HoldsProperties(CZelData const& model) {
-    auto const modules = Modules();
-    return std::any_of(modules.begin(), modules.end(), [&](ModuleRow const& row) {
-      return row.module >= CModule::MatSteel && row.module <= CModule::RC2DProp &&
-             row.highest(model) > 0;
-    });
-  }
-
   CZelData const& m_model;
   std::array<Target, kModules> m_targets;
   Target m_storeys;
   Target m_soilProfiles;
+  Target m_spectra;
   Target m_none;
 };
 
@@ -95,9 +85,18 @@ struct Emitter {
     visit(site);
   }
 
+  /// Emits the cases that a description names; the index counts them.
+  void Emit(CString const& description) {
+    site.index = 0;
+    for (auto const& ref : Data::CasesIn(description)) {
+      Emit(ref.Case(), CaseModule(ref.CaseType()));
+      ++site.index;
+    }
+    site.index = -1;
+  }
+
   /// Emits what the words of a list name. @param own the table of its numbers.
   void Emit(Data::CEntList const& list, CModule::ModuleId own) {
-    if (list.TypeOf() == SelCase) return;
     Data::ListScanner scanner(Data::ListAccess::Text(list).Tokens());
     Data::ListElement element;
     while (scanner.Next(element)) {
@@ -112,11 +111,17 @@ struct Emitter {
     using Item = Data::ListElement::Item;
     if (element.part != Data::ListElement::Part::Item) return;
     bool const number = element.item == Item::Numbers && !element.IsRange();
-    if (number && element.first != Data::kHighest) Emit(element.first, own);
+    if (number && element.first != Data::kHighest) EmitNumber(element.first, kind, own);
     if (element.item != Item::Word) return;
     if (Data::IsOwnNumberWord(element.token, kind)) Emit(element.first, own);
     if (IsCoordinateWord(element.token)) Emit(element.first, CModule::Node);
     if (element.token == Data::kSavedList) Emit(element.first, targets.Lists(kind));
+  }
+
+  void EmitNumber(int number, SelType kind, CModule::ModuleId own) {
+    if (kind != SelCase) return Emit(number, own);
+    auto const ref = Data::CaseOfToken(number);
+    Emit(ref.Case(), CaseModule(ref.CaseType()));
   }
 };
 
@@ -166,7 +171,12 @@ void AddReferenceFields(std::vector<ReferenceField<Record>>& fields, Row const& 
                       }});
   };
   std::string const name(row.name);
-  if constexpr (std::derived_from<Value, Data::CEntList>) {
+  if constexpr (std::is_same_v<Value, Data::CCaseDesc> ||
+                std::is_same_v<Value, Data::CCombCaseDesc>) {
+    add(name, [](Value const& description, Record const&, Emitter& emitter) {
+      emitter.Emit(description.Text());
+    });
+  } else if constexpr (std::derived_from<Value, Data::CEntList>) {
     add(name, [row](Value const& list, Record const& record, Emitter& emitter) {
       emitter.Emit(list, row.target == nullptr ? EntModId(list.TypeOf()) : row.target(record));
     });
@@ -214,6 +224,13 @@ std::vector<ReferenceField<Record>> const& ReferenceFields() {
   return kFields;
 }
 
+/// A saved list is a record that names others itself.
+void VisitRecord(Data::CEntList const& list, int number, Emitter& emitter) {
+  emitter.site.number = number;
+  emitter.site.field = "text";
+  emitter.Emit(list, EntModId(list.TypeOf()));
+}
+
 template <class Record>
 void VisitRecord(Record const& record, int number, Emitter& emitter) {
   emitter.site.number = number;
@@ -234,8 +251,11 @@ void ForEachReference(CZelData const& model, Visit const& visit) {
   });
   ForEachTable([&](auto const& row) {
     emitter.site.table = row.stem;
-    ForEachRecord((model.*row.all)(),
-                  [&](int number, auto const& record) { VisitRecord(record, number, emitter); });
+    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+    ForEachRecord((model.*row.all)(), [&](int number, Record const& record) {
+      RecordClasses<Record>::Take(
+          record, [&](auto const& object) { VisitRecord(object, number, emitter); });
+    });
   });
 }
 

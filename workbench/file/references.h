@@ -23,10 +23,9 @@ struct ReferenceSite {
 
 /// Calls visit for every reference field of every record, in the order of the registry and records
 /// in ascending number, empty references (0) included. The views of a site are good for the time of
-/// the program. A model without any material or property is geometry alone: its property numbers
-/// point into no table. Of a list that a record holds, the numbers that stand alone are references,
+/// the program. Of a list, saved or held by a record, the numbers that stand alone are references,
 /// so are nodes behind co-ordinate words and saved lists behind "#"; the index is the place among
-/// the words. Ranges may have holes, and are none. Saved lists are not walked.
+/// the words. Ranges may have holes, and are none.
 void ForEachReference(CZelData const& model,
                       std::function<void(ReferenceSite const&)> const& visit);
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "store/numeric/vbool6.h"
+#include "store/record/case_desc.h"
 #include "store/record/entity.h"
 #include "store/record/held_list.h"
 #include "store/record/link_type.h"
@@ -87,6 +88,21 @@ template <class Value>
 }
 
 /// The text of a selection list.
+/// A description of cases: its text.
+template <class T>
+requires std::is_same_v<T, Data::CCaseDesc> || std::is_same_v<T, Data::CCombCaseDesc>
+struct Codec<T> {
+  template <class Value>
+  static void Read(Value& in, T& value) {
+    value = T(CString::FromUtf8(in.String()));
+  }
+  static void Write(std::string& out, T const& value) { Codec<CString>::Write(out, value.Text()); }
+  template <class Json>
+  static Json Schema() {
+    return Codec<CString>::Schema<Json>();
+  }
+};
+
 template <>
 struct Codec<Data::ListText> {
   template <class Value>

@@ -18,6 +18,25 @@ void AddFields(std::string_view table, int number, Record const& before, Record 
   });
 }
 
+/// A record that became one of another class is one change.
+template <class Record>
+void AddRecord(std::string_view table, int number, Record const& before, Record const& after,
+               std::vector<FieldChange>& changes) {
+  bool const alike = RecordClasses<Record>::TakeTwo(
+      before, after,
+      [&](auto const& a, auto const& b) { AddFields(table, number, a, b, changes); });
+  if (alike) return;
+  FieldChange change{table, number, "class", "", ""};
+  auto const write = [](std::string& text) {
+    return [&text]<class Class>(Class const&) {
+      if constexpr (requires { Class::kClass; }) AppendJsonString(text, Class::kClass);
+    };
+  };
+  RecordClasses<Record>::Take(before, write(change.before));
+  RecordClasses<Record>::Take(after, write(change.after));
+  changes.push_back(std::move(change));
+}
+
 }  // namespace
 
 std::vector<FieldChange> FindFieldChanges(CZelData const& before, CZelData const& after) {
@@ -28,7 +47,7 @@ std::vector<FieldChange> FindFieldChanges(CZelData const& before, CZelData const
   ForEachTable([&](auto const& row) {
     ForEachDifference((before.*row.all)(), (after.*row.all)(),
                       [&](int n, auto const* a, auto const* b) {
-                        if (a != nullptr && b != nullptr) AddFields(row.stem, n, *a, *b, changes);
+                        if (a != nullptr && b != nullptr) AddRecord(row.stem, n, *a, *b, changes);
                       });
   });
   return changes;

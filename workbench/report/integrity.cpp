@@ -88,19 +88,15 @@ void CheckNumbers(std::string_view table, int number, Record const& record, Find
 void CheckAllNumbers(CZelData const& model, Findings& findings) {
   ForEachOneOff([&](auto const& row) { CheckNumbers(row.stem, 0, (model.*row.get)(), findings); });
   ForEachTable([&](auto const& row) {
-    ForEachRecord((model.*row.all)(),
-                  [&](int n, auto const& record) { CheckNumbers(row.stem, n, record, findings); });
+    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+    ForEachRecord((model.*row.all)(), [&](int n, Record const& record) {
+      RecordClasses<Record>::Take(
+          record, [&](auto const& object) { CheckNumbers(row.stem, n, object, findings); });
+    });
   });
 }
 
 void CheckLists(CZelData const& model, Findings& findings) {
-  for (auto const& [n, list] : model.List()) {
-    SavedLists saved(model.List(), list.TypeOf());
-    for (auto const& missing : saved.MissingIn(Data::ListAccess::Text(list).Tokens()))
-      if (missing.number != 0)
-        findings.push_back({"dangling-reference", "List", static_cast<int>(n), "text", -1,
-                            missing.number, "List"});
-  }
   for (int const n : ListsThatReachThemselves(model))
     findings.push_back({"list-reaches-itself", "List", n, "text", -1, std::nullopt, ""});
 }

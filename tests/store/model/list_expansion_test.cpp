@@ -21,9 +21,12 @@ using Numbers = std::vector<int>;
 CZelData Model() {
   CZelData model;
   Testing::Grid(model, 3, 3);
+  for (int n = 1; n <= 9; ++n) model.SetElemProperty(n, 1);
   model.BlankElem(4, 1);
-  model.SetLoadPanel(5, Testing::Panel({1, 4, 16}));
-  model.SetLoadPanel(12, Testing::Panel({1, 4, 16}));
+  auto panel = Testing::Panel({1, 4, 16});
+  panel.SetProperty(1);
+  model.SetLoadPanel(5, panel);
+  model.SetLoadPanel(12, panel);
   return model;
 }
 

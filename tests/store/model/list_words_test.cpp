@@ -63,6 +63,7 @@ CZelData Model() {
   AddElement(model, 10, static_cast<ElementType>(11), {5, 6}, 1, 1);  // has no property table
   auto panel = Testing::Panel({5, 6, 7, 8});
   panel.SetGroup(8);
+  panel.SetProperty(1);
   model.SetLoadPanel(20, panel);
   return model;
 }

@@ -20,19 +20,7 @@
 
 namespace Tarvex::RegistryTest {
 
-// A row of a table whose operations all bear its stem.
-// clang-format off
-#define TARVEX_ROW(Stem, module, Record, a, b)                                              \
-  Row<Data::Record> {                                                                       \
-    std::string(#Stem), module, WithSid(Data::Record a), Data::Record b,                    \
-        [](CZelData const& m, int n) { return m.Stem##Exist(n); },                          \
-        [](CZelData const& m, int n) -> Data::Record const& { return m.Stem(n); },          \
-        [](CZelData const& m) -> WholeTable<Data::Record> const& { return m.Stem(); },      \
-        [](CZelData const& m) { return m.Highest##Stem(); },                                \
-        [](CZelData& m, int n, Data::Record const& r, SidMode s) { m.Set##Stem(n, r, s); }, \
-        [](CZelData& m, int first, int count) { m.Blank##Stem(first, count); }              \
-  }
-// clang-format on
+#define TARVEX_ROW(Stem, module, Record, a, b) TARVEX_ROW_OF(Stem, module, Data::Record, a, b)
 
 /// Materials, properties, soil and spectra.
 inline auto PropertyRows() {

@@ -41,12 +41,22 @@ void DropChanged(Record const& record, Record const& original, std::string const
   });
 }
 
+/// What the fields of a record are told by: its table, or the class where a table has several.
+template <class Record, class Class>
+std::string NameOf(std::string_view stem) {
+  if constexpr (RecordClasses<Record>::kSeveral)
+    return std::string(Class::kClass);
+  else
+    return std::string(stem);
+}
+
 TEST(RandomModelProperty, FillsEveryTableAndEveryField) {
   std::set<std::string> left;
   ForEachTable([&](auto const& row) {
     left.emplace(row.stem);
     using Record = typename std::remove_cvref_t<decltype(row)>::Record;
-    AllFields<Record>(std::string(row.stem), left);
+    RecordClasses<Record>::ForEach(
+        [&]<class Class>(Class*) { AllFields<Class>(NameOf<Record, Class>(row.stem), left); });
   });
   ForEachOneOff([&](auto const& row) {
     using Record = typename std::remove_cvref_t<decltype(row)>::Record;
@@ -57,9 +67,13 @@ TEST(RandomModelProperty, FillsEveryTableAndEveryField) {
     ForEachTable([&](auto const& row) {
       std::string const stem(row.stem);
       if (!(model.*row.all)().empty()) left.erase(stem);
-      typename std::remove_cvref_t<decltype(row)>::Record const original{};
-      ForEachRecord((model.*row.all)(),
-                    [&](int, auto const& record) { DropChanged(record, original, stem, left); });
+      using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+      ForEachRecord((model.*row.all)(), [&](int, Record const& record) {
+        RecordClasses<Record>::Take(record, [&]<class Class>(Class const& object) {
+          Class const original{};
+          DropChanged(object, original, NameOf<Record, Class>(stem), left);
+        });
+      });
     });
     ForEachOneOff([&](auto const& row) {
       typename std::remove_cvref_t<decltype(row)>::Record const original{};

@@ -17,6 +17,7 @@
 #include "store/record/polyline.h"
 #include "store/record/row_pack.h"
 #include "store/record/views.h"
+#include "tests/store/model/case_rows.h"
 #include "tests/store/model/property_rows.h"
 #include "tests/store/model/table_row.h"
 #include "tests/support/builders.h"
@@ -166,6 +167,6 @@ inline auto EntityRows() {
                    [](CZelData& m, int first, int count) { m.BlankOpView(first, count); }});
 }
 
-inline auto Rows() { return JoinRows(EntityRows(), PropertyRows()); }
+inline auto Rows() { return JoinRows(EntityRows(), PropertyRows(), CaseRows()); }
 
 }  // namespace Tarvex::RegistryTest

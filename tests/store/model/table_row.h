@@ -4,6 +4,7 @@
 #include <string>
 
 #include "store/model/zel_data.h"
+#include "store/record/task_slot.h"
 
 namespace Tarvex::RegistryTest {
 
@@ -26,9 +27,28 @@ struct Row {
 };
 
 template <class R>
-R WithSid(R record) {
-  record.SetSid(L"id");
+R WithSid(R record, wchar_t const* sid = L"id") {
+  record.SetSid(sid);
   return record;
 }
+inline Zel::TaskSlot WithSid(Zel::TaskSlot const& slot, wchar_t const* sid = L"id") {
+  auto task = slot.Get().Clone();
+  task->SetSid(sid);
+  return Zel::TaskSlot(*task);
+}
+
+// A row of a table whose operations all bear its stem.
+// clang-format off
+#define TARVEX_ROW_OF(Stem, module, Record, a, b)                                           \
+  Row<Record> {                                                                             \
+    std::string(#Stem), module, WithSid(Record a), Record b,                                \
+        [](CZelData const& m, int n) { return m.Stem##Exist(n); },                          \
+        [](CZelData const& m, int n) -> Record const& { return m.Stem(n); },                \
+        [](CZelData const& m) -> WholeTable<Record> const& { return m.Stem(); },            \
+        [](CZelData const& m) { return m.Highest##Stem(); },                                \
+        [](CZelData& m, int n, Record const& r, SidMode s) { m.Set##Stem(n, r, s); },       \
+        [](CZelData& m, int first, int count) { m.Blank##Stem(first, count); }              \
+  }
+// clang-format on
 
 }  // namespace Tarvex::RegistryTest

@@ -25,7 +25,7 @@ TEST(Element, IsOfNoTypeAtFirst) {
   EXPECT_EQ(element.Type(), ElementType::None);
   EXPECT_EQ(element.NumTopo(), 0);
   EXPECT_EQ(element.Group(), 1);
-  EXPECT_EQ(element.Property(), 1);
+  EXPECT_EQ(element.Property(), 0);
   EXPECT_EQ(element.OrientationNode(), 0);
   EXPECT_EQ(element.OrientationAngle(), 0);
   EXPECT_FALSE(element.IsDummy());

@@ -16,7 +16,7 @@ TEST(LoadPanel, HasNoNodesAtFirst) {
   EXPECT_EQ(panel.NumTopo(), 0);
   EXPECT_EQ(panel.Topo(0), 0);
   EXPECT_EQ(panel.Group(), 1);
-  EXPECT_EQ(panel.Property(), 1);
+  EXPECT_EQ(panel.Property(), 0);
   EXPECT_FALSE(panel.IsDummy());
   EXPECT_EQ(panel.OrientationAngle(), 0);
   EXPECT_EQ(panel.ParentMember(), ParentMember());

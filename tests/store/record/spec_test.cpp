@@ -75,6 +75,24 @@ TEST(Unit, RefusesFactorsThatAreNoneAndUnknownQuantities) {
   EXPECT_EQ(unit, CUnit());
 }
 
+TEST(Spec, KnowsWhereTheStructureStandsAndWhatItIs) {
+  CSpec spec;
+  EXPECT_EQ(spec.Country().GetCode(), 0);
+  EXPECT_EQ(spec.ZElevation(), 0);
+  EXPECT_EQ(spec.StructType(), StrType::Space);
+  EXPECT_TRUE(spec.GlobalRestraint().IsNone());
+  spec.SetCountry(CCountry(106));
+  spec.SetZElevation(1200.5);
+  spec.SetStructType(StrType::PlaneStress);
+  EXPECT_EQ(spec.Country().GetCode(), 106);
+  EXPECT_EQ(spec.ZElevation(), 1200.5);
+  EXPECT_EQ(spec.StructType(), StrType::PlaneStress);
+  CRaftSpec raft;
+  EXPECT_EQ(raft.TopLevel(), 0);
+  raft.SetTopLevel(-1.5);
+  EXPECT_EQ(raft.TopLevel(), -1.5);
+}
+
 TEST(Defaults, NameNewRecordsByTheirNumber) {
   CDefaults const defaults;
   EXPECT_EQ(defaults.AnalysisTaskName(), L"Analysis Task #");
@@ -93,14 +111,19 @@ TEST(Defaults, KeepEachNameByItself) {
 }
 
 TEST(OneOffs, CompareEveryField) {
-  Testing::ExpectFields<CSpec>({{"genTol", [](CSpec& s) { s.SetGenTol(TolType::AxisAngle, 2); }},
-                                {"unit",
-                                 [](CSpec& s) {
-                                   CUnit unit;
-                                   unit.SetConversion(CUnit::kAngle, 2);
-                                   s.SetUnit(unit);
-                                 }},
-                                {"consGridRef", [](CSpec& s) { s.SetConsGridRef(3); }}});
+  Testing::ExpectFields<CSpec>(
+      {{"genTol", [](CSpec& s) { s.SetGenTol(TolType::AxisAngle, 2); }},
+       {"unit",
+        [](CSpec& s) {
+          CUnit unit;
+          unit.SetConversion(CUnit::kAngle, 2);
+          s.SetUnit(unit);
+        }},
+       {"consGridRef", [](CSpec& s) { s.SetConsGridRef(3); }},
+       {"country", [](CSpec& s) { s.SetCountry(CCountry(80)); }},
+       {"zElevation", [](CSpec& s) { s.SetZElevation(3); }},
+       {"structType", [](CSpec& s) { s.SetStructType(StrType::GridXY); }}});
+  Testing::ExpectFields<CRaftSpec>({{"topLevel", [](CRaftSpec& s) { s.SetTopLevel(3); }}});
   Testing::ExpectFields<CUnit>({{"length", [](CUnit& u) { u.SetConversion(CUnit::kLength, 2); }},
                                 {"angle", [](CUnit& u) { u.SetConversion(CUnit::kAngle, 2); }}});
   Testing::ExpectFields<GenTolerances>(

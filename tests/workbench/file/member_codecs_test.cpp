@@ -14,7 +14,7 @@ using Testing::FaultOf;
 using Testing::Read;
 
 void Expect(void (*change)(CMember&), std::string const& before, std::string const& behind) {
-  CMember member(1, 1);
+  CMember member(1, 0);
   member.SetTopo(CString(L"4 7"));
   change(member);
   CZelData model;

@@ -305,7 +305,7 @@ TEST(ReadModelText, TakesWholeNumbersInAnyForm) {
 
 TEST(ReadModelText, GivesMissingFieldsTheirDefaults) {
   auto const model = Read(ModelFile(R"(, "Elem": [{"n": 1, "type": 2, "topology": [1, 2]}])"));
-  Data::CElement expected(1, ElementType::Beam, 1);
+  Data::CElement expected(1, ElementType::Beam, 0);
   expected.SetTopo(std::vector{1, 2});
   EXPECT_EQ(model.Elem(1), expected);
 }

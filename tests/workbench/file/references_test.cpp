@@ -37,9 +37,9 @@ TEST(ForEachReference, NamesEveryReferenceOfANode) {
   EXPECT_EQ(Sites(model), (std::vector<std::string>{
                               "Spec 0 consGridRef -1: 0 GridPlane",
                               "Node 7 axis -1: 4 Axis exists",
-                              "Node 7 springProperty -1: 5 ",
-                              "Node 7 massProperty -1: 0 ",
-                              "Node 7 damperProperty -1: 0 ",
+                              "Node 7 springProperty -1: 5 SpringProp",
+                              "Node 7 massProperty -1: 0 MassProp",
+                              "Node 7 damperProperty -1: 0 DamperProp",
                           }));
 }
 
@@ -55,15 +55,15 @@ TEST(ForEachReference, NamesEveryReferenceOfElementsAndPanels) {
   std::vector<std::string> const all{
       "Spec 0 consGridRef -1: 0 GridPlane",
       "Node 2 axis -1: 0 Axis",
-      "Node 2 springProperty -1: 0 ",
-      "Node 2 massProperty -1: 0 ",
-      "Node 2 damperProperty -1: 0 ",
-      "Elem 1 property -1: 3 ",
+      "Node 2 springProperty -1: 0 SpringProp",
+      "Node 2 massProperty -1: 0 MassProp",
+      "Node 2 damperProperty -1: 0 DamperProp",
+      "Elem 1 property -1: 3 Section",
       "Elem 1 topology 0: 2 Node exists",
       "Elem 1 topology 1: 9 Node",
       "Elem 1 orientationNode -1: 2 Node exists",
       "Elem 1 parentMember.member -1: 6 Member",
-      "LoadPanel 8 property -1: 1 ",
+      "LoadPanel 8 property -1: 0 Prop2D",
       "LoadPanel 8 topology 0: 2 Node exists",
       "LoadPanel 8 parentMember.member -1: 0 Member",
   };
@@ -83,7 +83,7 @@ TEST(ForEachReference, NamesEveryReferenceOfAMemberAndNoWordOfItsTopology) {
   auto sites = Sites(model);
   std::erase_if(sites, [](std::string const& site) { return !site.starts_with("Member"); });
   EXPECT_EQ(sites, (std::vector<std::string>{
-                       "Member 1 property -1: 3 ",
+                       "Member 1 property -1: 3 Section",
                        "Member 1 topology 0: 2 Node",
                        "Member 1 topology 2: 7 Node",
                        "Member 1 topology 3: 9 Node",
@@ -120,7 +120,7 @@ TEST(ForEachReference, NamesTheNumbersOfAListByTheirPlaceAmongItsWords) {
                    }));
 }
 
-TEST(ForEachReference, TakesTheKindOfAListForItsTableAndNothingFromCases) {
+TEST(ForEachReference, TakesTheKindOfAListForItsTable) {
   CZelData model;
   Data::CAssembly assembly;
   auto const sites = [&](Data::CEntList const& entities) {
@@ -135,7 +135,8 @@ TEST(ForEachReference, TakesTheKindOfAListForItsTableAndNothingFromCases) {
   EXPECT_EQ(sites({SelNode, L"7"}), (Lines{"Assembly 1 entities 0: 7 Node"}));
   EXPECT_EQ(sites({SelElement, L"7"}), (Lines{"Assembly 1 entities 0: 7 Elem"}));
   EXPECT_EQ(sites({SelNone, CString(L"7")}), (Lines{"Assembly 1 entities 0: 7 "}));
-  EXPECT_EQ(sites({SelCase, L"L7"}), Lines());
+  EXPECT_EQ(sites({SelCase, L"L7 T8"}), (Lines{"Assembly 1 entities 0: 7 LoadCaseTitle",
+                                               "Assembly 1 entities 1: 8 AnalysisTask"}));
 }
 
 TEST(FindDanglingReferences, FindsNothingInAWholeModel) {
@@ -171,12 +172,10 @@ TEST(FindDanglingReferences, CountsNumbersBelowZeroAndPassesOverZero) {
   EXPECT_EQ(FindDanglingReferences(model), expected);
 }
 
-TEST(FindDanglingReferences, PassesOverTablesThatTheModelHasNot) {
+TEST(FindDanglingReferences, PassesOverWhatPointsIntoNoTable) {
   CZelData model;
   model.CreateNode(1, {}, 0, Vbool6());
-  Data::CNode node;
-  node.SetMassProperty(8);
-  model.SetNode(2, node);
+  model.CreateNode(2, {}, 0, Vbool6());
   auto odd = Element(static_cast<ElementType>(4), {1, 2});  // a type without a shape
   odd.SetProperty(12);
   model.SetElem(1, odd);

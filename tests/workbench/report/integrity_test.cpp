@@ -81,7 +81,7 @@ TEST(FindFaults, NamesAMissingNumberInEachReferenceFieldOfAMember) {
               m.AddChildElement(99, 0);
             }}}) {
     auto model = Sound();
-    Data::CMember member(MembType::Beam, 1, 1);
+    Data::CMember member(MembType::Beam, 1, 0);
     member.SetTopo(CString(L"1 3"));
     row.plant(member);
     model.SetMember(5, member);
@@ -137,7 +137,7 @@ TEST(FindFaults, FindsATopologyOfAnotherLengthThanTheShape) {
 
 TEST(FindFaults, CountsAPositionWithoutANodeAsMissing) {
   auto model = Sound();
-  model.CreateElem(8, ElementType::Tri3, 1, 1);
+  model.CreateElem(8, ElementType::Tri3, 1, 0);
   auto const found = FindFaults(model);
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 8, "topology", -1, 0, ""}));
@@ -186,8 +186,8 @@ TEST(FindFaults, FindsListsThatReachThemselvesAndReferToNone) {
   model.SetList(6, Data::CEntList(SelNode, L"#5"));  // which is of another kind
   EXPECT_EQ(
       FindFaults(model),
-      (std::vector<Finding>{{"dangling-reference", "List", 4, "text", -1, 7, "List"},
-                            {"dangling-reference", "List", 6, "text", -1, 5, "List"},
+      (std::vector<Finding>{{"dangling-reference", "List", 4, "text", 2, 7, "List"},
+                            {"dangling-reference", "List", 6, "text", 0, 5, "List"},
                             {"list-reaches-itself", "List", 2, "text", -1, std::nullopt, ""},
                             {"list-reaches-itself", "List", 4, "text", -1, std::nullopt, ""}}));
 }

@@ -13,6 +13,7 @@
 #include "store/record/node_load.h"
 #include "store/record/restraints.h"
 #include "store/record/rigid.h"
+#include "store/record/stages.h"
 #include "tests/support/builders.h"
 #include "workbench/report/field_changes.h"
 #include "workbench/report/integrity.h"
@@ -53,6 +54,12 @@ void PutList(CZelData& model, void (CZelData::*set)(int, R const&, SidMode), CEn
 template <class R>
 void PutAxis(CZelData& model, void (CZelData::*set)(int, R const&, SidMode)) {
   Put<R>(model, set, [](R& r) { r.SetAxis(91); });
+}
+
+template <class R>
+void PutStage(CZelData& model, void (CZelData::*set)(int, R const&, SidMode)) {
+  model.SetAnalStage(1, Data::CAnalStage());
+  Put<R>(model, set, [](R& r) { r.SetStage(CEntList(SelNone, CString(L"1 96"))); });
 }
 
 struct Planted {
@@ -150,6 +157,14 @@ Planted const kRows[] = {
      [](M& m) {
        Put<Data::CGenRest>(m, &M::SetGenRest, [](auto& r) { r.SetNodes(Nodes(L"1 92")); });
      }},
+    {"GenRest", "stage", 1, 96, "AnalStage",
+     [](M& m) { PutStage<Data::CGenRest>(m, &M::SetGenRest); }},
+    {"Rigid", "stage", 1, 96, "AnalStage", [](M& m) { PutStage<Data::CRigid>(m, &M::SetRigid); }},
+    {"Joint", "stage", 1, 96, "AnalStage", [](M& m) { PutStage<Data::CJoint>(m, &M::SetJoint); }},
+    {"ConstraintEqn", "stage", 1, 96, "AnalStage",
+     [](M& m) { PutStage<Data::CConstraintEqn>(m, &M::SetConstraintEqn); }},
+    {"TiedInterface", "stage", 1, 96, "AnalStage",
+     [](M& m) { PutStage<Data::CTiedInterface>(m, &M::SetTiedInterface); }},
     {"Rigid", "primaryNode", -1, 92, "Node",
      [](M& m) { Put<Data::CRigid>(m, &M::SetRigid, [](auto& r) { r.SetPrimaryNode(92); }); }},
     {"Rigid", "constrainedNodes", 1, 92, "Node",

@@ -219,16 +219,16 @@ TEST(FindFaults, TakesNoAnalysisMaterialAndNoGradeForAReference) {
   EXPECT_TRUE(FindFaults(model).empty());
 }
 
-TEST(FindFaults, TakesPropertyNumbersForNoReferencesInAModelWithoutProperties) {
+TEST(FindFaults, FindsMissingPropertiesInAModelWithoutAnyToo) {
   CZelData model;
   Testing::Grid(model, 1, 1);
+  EXPECT_TRUE(FindFaults(model).empty());  // 0 names none
+  model.SetElemProperty(1, 7);
   ChangeNode(model, [](auto& n) { n.SetMassProperty(5); });
-  EXPECT_TRUE(FindFaults(model).empty());
-  model.SetMatAnal(4, Data::CMatAnal());
   EXPECT_EQ(
       FindFaults(model),
       (std::vector<Finding>{{"dangling-reference", "Node", 2, "massProperty", -1, 5, "MassProp"},
-                            {"dangling-reference", "Elem", 1, "property", -1, 1, "Prop2D"}}));
+                            {"dangling-reference", "Elem", 1, "property", -1, 7, "Prop2D"}}));
 }
 
 TEST(FindFaults, FindsANumberThatIsNotFiniteInProperties) {
