@@ -24,6 +24,7 @@ TOWER_Y = (3.5, 17.5)               # m, width 14 published, place over the base
 # Kinds of members and what 2D ones become, by their numbers in model files.
 T_BEAM, T_COLUMN, T_SLAB, T_WALL, T_SOLID = 1, 2, 4, 5, 13
 QUADRATIC, LOAD_PANELS = 1, 3
+DIAPHRAGM = 53                      # type of a rigid constraint that keeps a floor in shape
 LOAD_PANEL = 10                     # type of a 2D property that only takes loads to its edges
 
 # Chosen: everything below.
@@ -47,6 +48,20 @@ PODIUM_DROP = -0.1                  # m, the slab round the tower lies lower for
 
 TOWER_BASE = BASEMENTS              # level 0 of the building, counted from the raft up
 ROOF = BASEMENTS + len(TOWER_HEIGHTS)
+
+# Loads, N, m and K; values of EN 1991-1-1 and -1-3 where the README says so.
+FINISHES, PARTITIONS, OFFICES, ROOF_ACCESS, SNOW = 1500, 2000, 3000, 400, 640
+WIND, SUCTION, WARMING = 800, 400, 15
+CHILLER, PLANT, PARAPET = 20000, 2500, 3000
+# Ordinates of the elastic spectrum of EN 1998-1, 3.2.2.2 (type 1, ground B: S 1.2, TB 0.15, TC 0.5, TD 2 s).
+GROUND_ACCELERATION = 0.25 * 9.80665                           # m/s2
+SOIL_FACTOR, T_B, T_C, T_D = 1.2, 0.15, 0.5, 2
+LONG_TERM = 3                       # the modulus is divided by this for lasting loads (creep)
+
+# Numbers of load cases, tasks and cases; the analysis case of a load case has its number.
+DEAD, FINISHED, IMPOSED, IMPOSED_ROOF, WIND_X, WIND_Y, SNOWED, WARMED = range(1, 9)
+STATIC, MODAL, RESPONSE, P_DELTA = 1, 2, 3, 4
+RESPONSE_X, RESPONSE_Y = 11, 12
 
 # A group is the tens of the kind and the level that the storey reaches up to.
 COLUMN, BEAM, FLOOR, WALL, RAFT, FACADE, CANOPY = 10, 20, 30, 40, 50, 60, 70
@@ -446,7 +461,103 @@ def properties():
     prop_2d = [{"n": n, "name": name, "materialAnalysis": 1, "thickness": t} for n, name, t in plates]
     prop_2d.append({"n": P_FACADE, "name": "Facade", "type": LOAD_PANEL})
     prop_3d = [{"n": P_RAFT, "name": "Raft", "materialAnalysis": 1}]
-    return {"MatAnal": [concrete], "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+    crept = concrete | {"n": 2, "name": "Concrete, crept", "youngsModulus": YOUNGS_MODULUS / LONG_TERM}
+    return {"MatAnal": [concrete, crept], "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+
+
+def lists_by(word):
+    """Selects entities by a list text."""
+    return {"text": word}
+
+
+def face_load(case, word, value, direction=3):
+    return {"loadCase": case, "loadedEntities": lists_by(word), "direction": direction, "value": [value, 0, 0, 0]}
+
+
+def corners(x, y):
+    return [[x[0], y[0]], [x[1], y[0]], [x[1], y[1]], [x[0], y[1]]]
+
+
+def load_cases():
+    """What each load case is: type of action, source and category."""
+    titles = [("Self weight", 11, {}), ("Finishes and partitions", 11, {}), ("Offices", 31, {"category": 2}),
+              ("Access to the roof", 32, {"category": 8}), ("Wind +x", 33, {}), ("Wind +y", 33, {}), ("Snow", 34, {}),
+              ("Summer", 36, {})]
+    return [{"n": n, "name": name, "type": kind} | ({"source": n} if n > 1 else {}) | more
+            for n, (name, kind, more) in enumerate(titles, 1)]
+
+
+def loads():
+    """Loads point downwards (-z), wind along x and y; the roof surface takes what stands on it anywhere."""
+    floors = by("G", *(FLOOR + level for level in range(1, ROOF)))
+    roof = f"G{FLOOR + ROOF}"
+    covered = f"{roof} PA{P_CANOPY}"
+    faces = [face_load(FINISHED, '"Slabs"', -FINISHES), face_load(IMPOSED, floors, -OFFICES),
+             face_load(IMPOSED_ROOF, roof, -ROOF_ACCESS), face_load(SNOWED, covered, -SNOW),
+             face_load(WIND_X, '"West facade"', WIND, 1), face_load(WIND_X, '"East facade"', SUCTION, 1),
+             face_load(WIND_Y, '"South facade"', WIND, 2), face_load(WIND_Y, '"North facade"', SUCTION, 2)]
+    on_roof = {"loadCase": FINISHED, "surface": 1, "direction": 3}
+    parapet = corners((0, LENGTH), TOWER_Y)
+    parapet += parapet[:1]
+    return {
+        "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'), "type": 2,
+                      "direction": 3, "value": [-PARTITIONS, 0]}],
+        "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'), "type": 1,
+                             "value": [WARMING, 0]}],
+        "FaceLoad": faces,
+        "FaceThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Slabs"'), "type": 1,
+                             "value": [WARMING] + 7 * [0]}],
+        "GridPointLoad": [on_roof | {"gridCoor": [14, 10.5], "value": -CHILLER}],
+        "GridLineLoad": [on_roof | {"line": 3, "polygon": parapet, "value": [-PARAPET, -PARAPET]}],
+        "GridAreaLoad": [on_roof | {"area": 3, "polygon": corners(CANOPY_X, CANOPY_Y), "value": -PLANT}],
+        "GravityLoad": [{"loadCase": DEAD, "loadedEntities": lists_by("all"), "factor": [0, 0, -1]}]}
+
+
+def constraints(number):
+    """Floors that keep their shape in plan, and the earth behind two basement walls once it is filled in."""
+    rigids = []
+    for storey in storeys():
+        core = number[point(CORE_X[0], CORE_Y[0], storey.get("elevation", 0))]
+        rigids.append({"name": storey["name"], "type": DIAPHRAGM, "primaryNode": core,
+                       "constrainedNodes": f"Z{core} not {core}"})
+    south, north = (number[point(0, y, LEVELS[0])] for y in BASEMENT_Y)
+    earth = {"name": "Earth", "nodes": f"Y{south} Y{north}", "restraint": ["Y"], "stage": "2 3"}
+    return {"GenRest": [earth], "Rigid": rigids}
+
+
+def stages():
+    """The basement, the tower on it, and the building in use, when its concrete has crept."""
+    built = [("Basement", '"Basement" "Raft"'), ("Tower", "all"), ("Use", "all")]
+    table = [{"n": n, "name": name, "stageElem": word} for n, (name, word) in enumerate(built, 1)]
+    return {"AnalStage": table, "AnalStageMat": [{"n": 1, "stage": 3, "elemOriginalMat": 1, "elemStageMat": 2}]}
+
+
+def spectrum():
+    def ordinate(period):
+        plateau = GROUND_ACCELERATION * SOIL_FACTOR * 2.5
+        return plateau * min(1, T_C / period) * min(1, T_D / period)
+    start = [0, round(GROUND_ACCELERATION * SOIL_FACTOR, 6)]
+    periods = [T_B, T_C, 0.75, 1, 1.5, T_D, 3, 4]
+    return [{"n": 1, "name": "EN 1998-1 type 1, ground B", "points": [start] + [[t, round(ordinate(t), 6)]
+                                                                               for t in periods]}]
+
+
+def tasks():
+    """Statics of the load cases, modes with the masses of lasting loads, their response, and P-delta."""
+    cases = [{"n": title["n"], "name": title["name"], "description": f"L{title['n']}", "task": STATIC}
+             for title in load_cases()]
+    cases += [{"n": n, "name": f"Earthquake {axis}", "task": RESPONSE, "modeDirection": d}
+              for n, axis, d in ((RESPONSE_X, "x", 1), (RESPONSE_Y, "y", 2))]
+    lasting = f"L{DEAD} + L{FINISHED} + 0.3L{IMPOSED}"
+    task = [{"n": STATIC, "class": "CZssTask", "name": "Statics", "solution": 1, "stage": 2,
+             "cases": [title["n"] for title in load_cases()]},
+            {"n": MODAL, "class": "CZssTask", "name": "Modes", "solution": 2, "stage": 2, "additionalMass": True,
+             "massCase": f"L{FINISHED} + 0.3L{IMPOSED}", "modalParameters": {"numModes": 12}},
+            {"n": RESPONSE, "class": "CZdSpecTask", "name": "Response", "cases": [RESPONSE_X, RESPONSE_Y],
+             "task": MODAL, "source": 9, "spectrum": [1, 1, 0]},
+            {"n": P_DELTA, "class": "CZssTask", "name": "Second order", "solution": 4, "stage": 3, "pDelta": lasting,
+             "pDeltaEffects": True}]
+    return {"AnalysisTask": task, "AnalysisCase": cases}
 
 
 MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]
@@ -468,8 +579,8 @@ def member_records(members, number, element_number):
 def model():
     wall_elements, wall_members = walls()
     canopy_elements, canopy_members = canopy()
-    made = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs(), "walls": (wall_elements, wall_members),
-            "raft": raft(), "facade": facade()}
+    made = {"columns": columns(), "beams": beams(wall_elements), "slabs": slabs(),
+            "walls": (wall_elements, wall_members), "raft": raft(), "facade": facade()}
     blocks = {name: elements for name, (elements, _) in made.items()}
     members = [m for _, block in made.values() for m in block] + canopy_members
     blocks["slabs"] += canopy_elements
@@ -491,8 +602,11 @@ def model():
             elements.append({"n": element_number[id(e)]} | fields | {"topology": [number[p] for p in e["topology"]]})
     panels = [e for e in elements if "type" not in e]
     axis = {"n": 1, "name": "Grid", "origin": [0, TOWER_Y[0], 0]}
+    roof = {"n": 1, "name": "Roof", "plane": ROOF, "elements": f"G{FLOOR + ROOF}", "elementType": 2}
     return {"Node": nodes, "Elem": [e for e in elements if "type" in e], "LoadPanel": panels, "Member": member_table,
-            "Axis": [axis], "GridPlane": storeys(), "List": saved_lists(number)} | properties()
+            "Axis": [axis], "GridPlane": storeys(), "GridSurface": [roof],
+            "List": saved_lists(number)} | properties() | {"ResSpectrum": spectrum()} | loads() | constraints(
+                number) | {"LoadCaseTitle": load_cases()} | stages() | tasks()
 
 
 def text():

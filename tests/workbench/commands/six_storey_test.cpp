@@ -3,12 +3,19 @@
 
 #include <map>
 
+#include "store/model/analysis_case_table.h"
+#include "store/model/list_expansion.h"
 #include "store/model/zel_data.h"
 #include "store/numeric/element_frame.h"
+#include "store/record/face_loads.h"
 #include "store/record/grid_plane.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/res_spectrum.h"
+#include "store/record/rigid.h"
+#include "store/record/task_slot.h"
 #include "workbench/file/model_reader.h"
+#include "workbench/report/integrity.h"
 
 namespace Tarvex::SixStoreyTest {
 namespace {
@@ -118,6 +125,102 @@ TEST(SixStorey, HasItsStoreysAsGridPlanes) {
     outside += in ? 0 : 1;
   }
   EXPECT_EQ(outside, 1);
+}
+
+TEST(SixStorey, NamesNothingThatIsMissing) {
+  EXPECT_TRUE(Workbench::FindFaults(Building()).empty());
+}
+
+TEST(SixStorey, HasEightLoadCasesWithTheirActions) {
+  EXPECT_EQ(Building().LoadCaseTypes(), (std::map<int, CaseType>{{1, CaseType::SelfWeight},
+                                                                 {2, CaseType::SelfWeight},
+                                                                 {3, CaseType::Imposed},
+                                                                 {4, CaseType::ImposedRoof},
+                                                                 {5, CaseType::Wind},
+                                                                 {6, CaseType::Wind},
+                                                                 {7, CaseType::Snow},
+                                                                 {8, CaseType::Thermal}}));
+}
+
+/// Area of the 2D elements and panels that the face loads of a load case act on.
+double LoadedArea(CZelData const& model, int loadCase) {
+  double area = 0;
+  for (auto const& load : model.FaceLoad()) {
+    if (load.LoadCase() != loadCase) continue;
+    for (int const n : Util::MakeSet(load.LoadedEntities(), model, true))
+      area += model.ElemExist(n) ? model.ElemArea(n)
+                                 : AreaOf(model, {model.LoadPanel(n).Topology().begin(),
+                                                  model.LoadPanel(n).Topology().end()});
+  }
+  return area;
+}
+
+TEST(SixStorey, LoadsTheAreasThatItsPageSays) {
+  auto const model = Building();
+  EXPECT_NEAR(LoadedArea(model, 4), 30 * 14, 1e-9);  // the roof, which has no shafts
+  // And the canopy, of which a triangle of 2 by 1.75 is cut off at each corner.
+  EXPECT_NEAR(LoadedArea(model, 7), 30 * 14 + 10 * 7.5 - 4 * 2 * 1.75 / 2, 1e-9);
+  // Facades: all of the perimeter but two walls of 6 m each on the long sides and one of 4 m on
+  // each short side, over 19 m.
+  EXPECT_NEAR(LoadedArea(model, 5), 2 * (14 - 4) * 19, 1e-9);
+  EXPECT_NEAR(LoadedArea(model, 6), 2 * (30 - 6) * 19, 1e-9);
+}
+
+TEST(SixStorey, HoldsEachFloorInItsShape) {
+  auto const model = Building();
+  ASSERT_EQ(model.HighestRigid(), 8);
+  for (int i = 1; i <= 8; ++i) {
+    auto const& rigid = model.Rigid(i);
+    double const level = model.Storey(i).Elevation();
+    int nodes = 0;
+    for (auto const& [n, node] : model.Node()) nodes += node.Position().z == level ? 1 : 0;
+    EXPECT_EQ(model.NodeCoor(rigid.PrimaryNode()).z, level);
+    EXPECT_EQ(Util::NumItem(rigid.ConstrainedNodes(), model), nodes - 1) << i;
+    EXPECT_TRUE(model.RigidIsActive(rigid, 1));
+  }
+}
+
+TEST(SixStorey, StandsInStages) {
+  auto const model = Building();
+  int active = 0;
+  for (auto const& [n, element] : model.Elem())
+    active += model.ElemIsActive(static_cast<int>(n), 1);
+  EXPECT_EQ(active, 1132 + 195);  // the basement and the raft
+  for (auto const& [n, element] : model.Elem())
+    ASSERT_TRUE(model.ElemIsActive(static_cast<int>(n), 2));
+  int const wall = [&] {  // a node of the south basement wall above its base
+    for (auto const& [n, node] : model.Node())
+      if (node.Position().y == 0 && node.Position().z == -3) return static_cast<int>(n);
+    return 0;
+  }();
+  EXPECT_FALSE(model.NodeTotalRestraint(wall, 1).Y());
+  EXPECT_TRUE(model.NodeTotalRestraint(wall, 2).Y());
+}
+
+TEST(SixStorey, HasTheSpectrumOfTheCode) {
+  auto const model = Building();
+  auto const& points = model.ResSpectrum(1).Points();
+  // EN 1998-1, 3.2.2.2: a_g S 2.5 = 0.25 x 9.80665 x 1.2 x 2.5 on the plateau; 0.5 / T of it up to
+  // 2 s, then 0.5 x 2 / T^2.
+  double const plateau = 7.3549875;
+  EXPECT_NEAR(points[0].y, plateau / 2.5, 1e-6);
+  EXPECT_NEAR(points[1].y, plateau, 1e-6);
+  EXPECT_NEAR(points[4].y, plateau * 0.5, 1e-6);
+  EXPECT_EQ(points[4].x, 1);
+  EXPECT_NEAR(points.back().y, plateau * 0.5 * 2 / 16, 1e-6);
+  EXPECT_EQ(points.back().x, 4);
+}
+
+TEST(SixStorey, HasATaskForEachOfItsAnalyses) {
+  auto const model = Building();
+  EXPECT_TRUE(model.AnalysisTask(1).IsStatic());
+  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 8u);
+  EXPECT_TRUE(model.AnalysisTask(2).IsEigenDynamic());
+  EXPECT_TRUE(model.AnalysisTask(3).IsResponseSpectrum());
+  EXPECT_TRUE(model.AnalysisTask(4).IsPDelta());
+  for (auto const& [ref, record] : model.AnalysisCase())
+    EXPECT_TRUE(model.AnalysisTask(record.Task()).Cases().contains(ref.Case()));
+  EXPECT_EQ(model.AnalysisCaseStage(1), 2);
 }
 
 }  // namespace
