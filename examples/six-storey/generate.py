@@ -470,8 +470,8 @@ def lists_by(word):
     return {"text": word}
 
 
-def face_load(case, word, value, direction=3):
-    return {"loadCase": case, "loadedEntities": lists_by(word), "direction": direction, "value": [value, 0, 0, 0]}
+def face_load(case, word, value, **more):
+    return {"loadCase": case, "loadedEntities": lists_by(word)} | more | {"value": [value, 0, 0, 0]}
 
 
 def corners(x, y):
@@ -488,29 +488,28 @@ def load_cases():
 
 
 def loads():
-    """Loads point downwards (-z), wind along x and y; the roof surface takes what stands on it anywhere."""
+    """Uniform loads along z unless a direction is said; the roof surface takes what stands on it anywhere."""
     floors = by("G", *(FLOOR + level for level in range(1, ROOF)))
     roof = f"G{FLOOR + ROOF}"
     covered = f"{roof} PA{P_CANOPY}"
     faces = [face_load(FINISHED, '"Slabs"', -FINISHES), face_load(IMPOSED, floors, -OFFICES),
              face_load(IMPOSED_ROOF, roof, -ROOF_ACCESS), face_load(SNOWED, covered, -SNOW),
-             face_load(WIND_X, '"West facade"', WIND, 1), face_load(WIND_X, '"East facade"', SUCTION, 1),
-             face_load(WIND_Y, '"South facade"', WIND, 2), face_load(WIND_Y, '"North facade"', SUCTION, 2)]
-    on_roof = {"loadCase": FINISHED, "surface": 1, "direction": 3}
+             face_load(WIND_X, '"West facade"', WIND, direction=1), face_load(WIND_X, '"East facade"', SUCTION, direction=1),
+             face_load(WIND_Y, '"South facade"', WIND, direction=2), face_load(WIND_Y, '"North facade"', SUCTION, direction=2)]
+    on_roof = {"loadCase": FINISHED, "surface": 1}
     parapet = corners((0, LENGTH), TOWER_Y)
     parapet += parapet[:1]
     return {
-        "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'), "type": 2,
-                      "direction": 3, "value": [-PARTITIONS, 0]}],
-        "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'), "type": 1,
+        "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'), "value": [-PARTITIONS, 0]}],
+        "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'),
                              "value": [WARMING, 0]}],
         "FaceLoad": faces,
-        "FaceThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Slabs"'), "type": 1,
+        "FaceThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Slabs"'),
                              "value": [WARMING] + 7 * [0]}],
         "GridPointLoad": [on_roof | {"gridCoor": [14, 10.5], "value": -CHILLER}],
         "GridLineLoad": [on_roof | {"line": 3, "polygon": parapet, "value": [-PARAPET, -PARAPET]}],
         "GridAreaLoad": [on_roof | {"area": 3, "polygon": corners(CANOPY_X, CANOPY_Y), "value": -PLANT}],
-        "GravityLoad": [{"loadCase": DEAD, "loadedEntities": lists_by("all"), "factor": [0, 0, -1]}]}
+        "GravityLoad": [{"loadCase": DEAD, "loadedEntities": lists_by("all")}]}
 
 
 def constraints(number):
@@ -549,7 +548,7 @@ def tasks():
     cases += [{"n": n, "name": f"Earthquake {axis}", "task": RESPONSE, "modeDirection": d}
               for n, axis, d in ((RESPONSE_X, "x", 1), (RESPONSE_Y, "y", 2))]
     lasting = f"L{DEAD} + L{FINISHED} + 0.3L{IMPOSED}"
-    task = [{"n": STATIC, "class": "CZssTask", "name": "Statics", "solution": 1, "stage": 2,
+    task = [{"n": STATIC, "class": "CZssTask", "name": "Statics", "stage": 2,
              "cases": [title["n"] for title in load_cases()]},
             {"n": MODAL, "class": "CZssTask", "name": "Modes", "solution": 2, "stage": 2, "additionalMass": True,
              "massCase": f"L{FINISHED} + 0.3L{IMPOSED}", "modalParameters": {"numModes": 12}},
