@@ -494,13 +494,16 @@ def loads():
     covered = f"{roof} PA{P_CANOPY}"
     faces = [face_load(FINISHED, '"Slabs"', -FINISHES), face_load(IMPOSED, floors, -OFFICES),
              face_load(IMPOSED_ROOF, roof, -ROOF_ACCESS), face_load(SNOWED, covered, -SNOW),
-             face_load(WIND_X, '"West facade"', WIND, direction=1), face_load(WIND_X, '"East facade"', SUCTION, direction=1),
-             face_load(WIND_Y, '"South facade"', WIND, direction=2), face_load(WIND_Y, '"North facade"', SUCTION, direction=2)]
+             face_load(WIND_X, '"West facade"', WIND, direction=1),
+             face_load(WIND_X, '"East facade"', SUCTION, direction=1),
+             face_load(WIND_Y, '"South facade"', WIND, direction=2),
+             face_load(WIND_Y, '"North facade"', SUCTION, direction=2)]
     on_roof = {"loadCase": FINISHED, "surface": 1}
     parapet = corners((0, LENGTH), TOWER_Y)
     parapet += parapet[:1]
     return {
-        "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'), "value": [-PARTITIONS, 0]}],
+        "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'),
+                      "value": [-PARTITIONS, 0]}],
         "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'),
                              "value": [WARMING, 0]}],
         "FaceLoad": faces,
