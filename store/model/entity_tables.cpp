@@ -2,6 +2,7 @@
 
 #include "store/geometry/axis_trans.h"
 #include "store/model/model_core.h"
+#include "store/model/node_holds.h"
 #include "store/model/node_use.h"
 #include "store/model/table_ops.h"
 #include "store/select/checked_access.h"
@@ -11,6 +12,7 @@ namespace {
 
 using Data::CElement;
 using Data::CNode;
+using Data::NodeHoldAccess;
 using Data::NodeUseAccess;
 using Data::TopoVector;
 
@@ -89,8 +91,11 @@ bool StoreNode(ModelCore& core, int n, CNode const& node, SidMode sid) {
   bool const isNew = old == nullptr;
   core.NodeMoved(n, old, nullptr);
   auto use = isNew ? nullptr : NodeUseAccess::Get(*old);
+  auto hold = isNew ? nullptr : NodeHoldAccess::Get(*old);
   auto& stored = TableOps::Store(table, n, node, sid);
   NodeUseAccess::Set(stored, std::move(use));
+  NodeHoldAccess::Set(stored, std::move(hold));
+  NodeHoldAccess::SetRuledOut(stored, core.state.spec.GlobalRestraint());
   core.NodeMoved(n, nullptr, &stored);
   return isNew;
 }
@@ -102,11 +107,13 @@ bool StoreNode(ModelCore& core, int n, CNode const& node, SidMode sid) {
 bool EntityTables::NodeExist(int n) const { return m_core.state.node.Exist(n); }
 
 CNode const& EntityTables::Node(int n) const {
+  NodeHolds::BeforeQuery(m_core);
   NodeUse::BeforeQuery(m_core);
   return TableOps::Get(m_core.state.node, "Node", n);
 }
 
 tarvex_unordered_map<unsigned int, CNode> const& EntityTables::Node() const {
+  NodeHolds::BeforeQuery(m_core);
   NodeUse::BeforeQuery(m_core);
   return m_core.state.node;
 }

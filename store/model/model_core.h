@@ -148,6 +148,13 @@ struct ModelState {
   Data::CDefaults defaults;
   Data::CRaftSpec raftSpec;
 
+  /// The nodes that restraints of lists hold, and the revisions that they were worked out from.
+  struct Held {
+    std::array<std::uint64_t, 9> marks{};
+    std::vector<int> nodes;
+  };
+  std::shared_ptr<Held const> held;
+
   /// Attachments of nodes that topology names and that do not exist; shared between states.
   using Waiting = std::map<int, Data::NodeUseAccess::Pointer>;
   std::shared_ptr<Waiting> waiting;
@@ -159,8 +166,9 @@ struct ModelState {
 class ModelCore {
  public:
   ModelState state;
-  bool const* hold = nullptr;  ///< the model's rebuild hold
-  bool rebuildAsked = false;   ///< FlagRebuild() since attachments were last built
+  bool const* hold = nullptr;       ///< the model's rebuild hold
+  CZelData const* model = nullptr;  ///< whose core it is
+  bool rebuildAsked = false;        ///< FlagRebuild() since attachments were last built
 
   struct {
     std::uint64_t revision = ~std::uint64_t{0};  ///< of the node table that it was taken from

@@ -49,7 +49,8 @@ std::vector<std::uint64_t> SourcesOfNaming(ModelState const& state) {
           state.nodeLoad.Revision(),
           state.appliedDisplacement.Revision(),
           state.settlement.Revision(),
-          state.gravityLoad.Revision()};
+          state.gravityLoad.Revision(),
+          state.analysisTask.Revision()};
 }
 
 }  // namespace
@@ -118,6 +119,11 @@ void NodeNaming::BuildNamed(ModelState const& state) {
   for (auto const* table : {&state.nodeLoad, &state.appliedDisplacement, &state.settlement})
     for (auto const& load : table->All()) ForEachSingleNode(load.LoadedEntities(), add);
   for (auto const& load : state.gravityLoad.All()) ForEachSingleNode(load.LoadedNodes(), add);
+  for (auto const& [n, slot] : state.analysisTask) {
+    auto const* task = dynamic_cast<CZdSpecTask const*>(&slot.Get());
+    for (int i = 0; task != nullptr && i < task->NumRelDisp(); ++i)
+      for (int const index : {1, 2}) add(task->RelDisp(i).Node(index));
+  }
 }
 
 void NodeNaming::UpdateOrientation(ModelState const& state, bool held) {

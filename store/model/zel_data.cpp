@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "store/model/model_core.h"
+#include "store/model/node_holds.h"
 #include "store/model/node_use.h"
 #include "store/model/registry.h"
 
@@ -49,7 +50,10 @@ CZelData::CZelData()
       EntityQueries(*m_owned),
       GridQueries(*m_owned, *this),
       ConstraintQueries(*m_owned, *this),
-      StageQueries(*m_owned, *this) {}
+      StageQueries(*m_owned, *this),
+      LoadQueries(*this) {
+  m_owned->model = this;
+}
 
 CZelData::CZelData(CZelData const& other)
     : ModelBase(other),
@@ -65,7 +69,10 @@ CZelData::CZelData(CZelData const& other)
       EntityQueries(*m_owned),
       GridQueries(*m_owned, *this),
       ConstraintQueries(*m_owned, *this),
-      StageQueries(*m_owned, *this) {}
+      StageQueries(*m_owned, *this),
+      LoadQueries(*this) {
+  m_owned->model = this;
+}
 
 CZelData& CZelData::operator=(CZelData const& other) {
   ModelBase::operator=(other);
@@ -75,7 +82,10 @@ CZelData& CZelData::operator=(CZelData const& other) {
 CZelData::~CZelData() = default;
 
 Data::CSpec const& CZelData::Spec() const { return m_owned->state.spec; }
-void CZelData::SetSpec(Data::CSpec const& spec) { m_owned->state.spec = spec; }
+void CZelData::SetSpec(Data::CSpec const& spec) {
+  m_owned->state.spec = spec;
+  NodeHolds::FollowStructType(m_owned->state);
+}
 Data::CDefaults const& CZelData::Defaults() const { return m_owned->state.defaults; }
 void CZelData::SetDefaults(Data::CDefaults const& defaults) { m_owned->state.defaults = defaults; }
 Data::CRaftSpec const& CZelData::RaftSpec() const { return m_owned->state.raftSpec; }

@@ -14,6 +14,7 @@
 #include "store/model/grid_load_tables.h"
 #include "store/model/grid_queries.h"
 #include "store/model/grid_tables.h"
+#include "store/model/load_queries.h"
 #include "store/model/load_tables.h"
 #include "store/model/member_tables.h"
 #include "store/model/property_tables.h"
@@ -67,7 +68,8 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
                                      public EntityQueries,
                                      public GridQueries,
                                      public ConstraintQueries,
-                                     public StageQueries {
+                                     public StageQueries,
+                                     public LoadQueries {
  public:
   using EntAt = Tarvex::EntAt;
 

@@ -8,6 +8,7 @@
 #include "store/export.h"
 #include "store/numeric/vbool6.h"
 #include "store/record/entity.h"
+#include "store/select/intervals.h"
 #include "store/select/reference.h"
 
 namespace Tarvex::Data {
@@ -20,8 +21,19 @@ struct NodeUse : boost::intrusive_ref_counter<NodeUse> {
   bool IsEmpty() const { return elements.empty() && members.empty(); }
 };
 
-/// A node. What is attached to it is derived data that the store keeps beside the record: storing a
-/// node neither reads nor changes it, and it is no part of equality or files.
+/// What restraints of lists hold of a node, by stage. Copies of a node share it.
+struct NodeHold : boost::intrusive_ref_counter<NodeHold> {
+  struct Item {
+    bool inAllStages;
+    Intervals stages;  ///< that exist, and 0
+    Vbool6 held;
+  };
+  std::vector<Item> items;
+};
+
+/// A node. What is attached to it and what holds it beside its own restraint is derived data that
+/// the store keeps beside the record: storing a node neither reads nor changes it, and it is no
+/// part of equality or files.
 class TARVEX_STORE_EXPORT CNode : public NamedEntity {
  public:
   CNode() = default;
@@ -37,6 +49,10 @@ class TARVEX_STORE_EXPORT CNode : public NamedEntity {
   /// Directions that are held.
   Vbool6 Restraint() const { return m_restraint; }
   void SetRestraint(Vbool6 restraint) { m_restraint = restraint; }
+  /// Directions that are held in a stage: its own, those of the restraints of lists that act there,
+  /// and those that the kind of structure rules out. A node that stands in no model has its own
+  /// alone. What lists hold may be as old as attachments are during a rebuild hold.
+  Vbool6 TotalNodalRestraint(int stage) const;
   /// Property numbers, 0 for none.
   int SpringProperty() const { return m_springProperty; }
   void SetSpringProperty(int property) { m_springProperty = property; }
@@ -70,6 +86,7 @@ class TARVEX_STORE_EXPORT CNode : public NamedEntity {
 
  private:
   friend struct NodeUseAccess;
+  friend struct NodeHoldAccess;
 
   Vec3<double> m_position;
   double m_meshSize = 0;
@@ -78,7 +95,9 @@ class TARVEX_STORE_EXPORT CNode : public NamedEntity {
   int m_massProperty = 0;
   int m_damperProperty = 0;
   Vbool6 m_restraint;
+  Vbool6 m_ruledOut;  // by the kind of structure
   boost::intrusive_ptr<NodeUse> m_use;
+  boost::intrusive_ptr<NodeHold> m_hold;
 };
 
 /// The store's own way to the attachments of a record.
@@ -86,6 +105,15 @@ struct NodeUseAccess {
   using Pointer = boost::intrusive_ptr<NodeUse>;
   static Pointer const& Get(CNode const& node) { return node.m_use; }
   static void Set(CNode& node, Pointer use) { node.m_use = std::move(use); }
+};
+
+/// The store's own way to what holds a node beside its own restraint.
+struct NodeHoldAccess {
+  using Pointer = boost::intrusive_ptr<NodeHold>;
+  static Pointer const& Get(CNode const& node) { return node.m_hold; }
+  static void Set(CNode& node, Pointer hold) { node.m_hold = std::move(hold); }
+  static Vbool6 RuledOut(CNode const& node) { return node.m_ruledOut; }
+  static void SetRuledOut(CNode& node, Vbool6 directions) { node.m_ruledOut = directions; }
 };
 
 }  // namespace Tarvex::Data

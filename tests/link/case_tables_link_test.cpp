@@ -5,6 +5,7 @@
 #include "store/model/zel_data.h"
 #include "store/record/case_refs.h"
 #include "store/record/load_case_title.h"
+#include "store/record/node.h"
 #include "store/record/stages.h"
 #include "store/record/task_slot.h"
 #include "store/text/number_text.h"
@@ -44,8 +45,9 @@ TEST(CaseTablesLink, Stages) {
   EXPECT_TRUE(AreLinked(&StageQueries::ElemIsActive, &StageQueries::IsLoadPanelActive,
                         &StageQueries::NodeIsActive, &StageQueries::NodeTotalRestraint, &NamesStage,
                         &CZelData::StructType, &CZelData::GlobalRestraint,
-                        &Data::CSpec::GlobalRestraint, &CZelData::RaftSpec,
-                        &CZelData::SetRaftSpec));
+                        &Data::CSpec::GlobalRestraint, &CZelData::RaftSpec, &CZelData::SetRaftSpec,
+                        &LoadQueries::ValidatePointLoadPosition,
+                        &Data::CNode::TotalNodalRestraint));
 }
 
 TEST(CaseTablesLink, Tasks) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "store/model/analysis_case_table.h"
+#include "store/model/list_expansion.h"
 #include "store/model/undo_step.h"
 #include "store/model/zel_data.h"
 #include "store/record/beam_loads.h"
@@ -286,6 +287,32 @@ TEST(AnalysisTask, IsGivenAsTheClassThatWasStored) {
   EXPECT_EQ(dynamic_cast<CZdSpecTask const&>(model.AnalysisTask(1)).Source(), 7);
   model.SetAnalysisTask(1, *clone);
   EXPECT_EQ(dynamic_cast<CZdSpecTask const&>(model.AnalysisTask(1)).Source(), 8);
+}
+
+TEST(CaseLists, HoldTheCasesThatTheyNameInTheOrderOfTheirKinds) {
+  CZelData model;
+  model.SetLoadCaseTitle(2, Data::CLoadCaseTitle());
+  model.SetNodeLoad(1, NodeLoadOf(5));
+  model.SetAnalysisCase(3, Zel::CAnalysisCase());
+  model.SetCombinationCase(4, Data::CCombinationCase());
+  model.SetAnalysisTask(1, CZssTask());
+  auto const cases = [&](wchar_t const* text) {
+    Data::CEntList const list(SelCase, CString(text));
+    std::vector<SCaseRef> found;
+    int const count = Util::NumItem(list, model);
+    for (int i = 0; i < count; ++i) found.push_back(list.Case(i));
+    return found;
+  };
+  using enum CaseOp;
+  using Cases = std::vector<SCaseRef>;
+  EXPECT_EQ(cases(L"all"),
+            (Cases{{Load, 2}, {Load, 5}, {Analysis, 3}, {Combination, 4}, {Task, 1}}));
+  EXPECT_EQ(cases(L"all not L5"), (Cases{{Load, 2}, {Analysis, 3}, {Combination, 4}, {Task, 1}}));
+  EXPECT_EQ(cases(L"C4 L1 to L3"),
+            (Cases{{Load, 1}, {Load, 2}, {Load, 3}, {Combination, 4}}));  // as they are written
+  model.DeleteNodeLoad(1, 1);
+  model.BlankAnalysisTask(1, 1);
+  EXPECT_EQ(cases(L"all"), (Cases{{Load, 2}, {Analysis, 3}, {Combination, 4}}));
 }
 
 TEST(SetAnalStageSid, ReplacesTheIdentifierOfAStoredStage) {

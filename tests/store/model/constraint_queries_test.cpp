@@ -17,6 +17,7 @@
 #include "store/record/node_load.h"
 #include "store/record/restraints.h"
 #include "store/record/rigid.h"
+#include "store/record/task_slot.h"
 #include "store/record/views.h"
 #include "tests/support/builders.h"
 #include "tests/support/random_model.h"
@@ -205,6 +206,15 @@ Use const kUses[] = {
        m.SetBeamLoad(1, load);
      },
      {}},
+    {"relative displacements of a task",
+     [](CZelData& m) {
+       CZdSpecTask task;
+       task.SetRelDisp(0, CRelDisp(0, 4, 5));
+       task.SetRelDisp(1, CRelDisp(0, 6, 0));
+       m.SetAnalysisTask(1, task);
+     },
+     {4, 5, 6}},
+    {"task of another class", [](CZelData& m) { m.SetAnalysisTask(1, CZssTask()); }, {}},
     {"saved list", [](CZelData& m) { m.SetList(1, Nodes(L"4 5")); }, {}},
     {"view",
      [](CZelData& m) {

@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "store/model/zel_data.h"
+#include "store/record/mat_anal.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/prop_2d.h"
 #include "store/record/restraints.h"
 #include "store/record/stages.h"
 #include "tests/support/builders.h"
@@ -42,6 +44,36 @@ TEST(ElemIsActive, IsFalseForWhatDoesNotExist) {
   EXPECT_FALSE(model.ElemIsActive(3, 0));  // a panel
   EXPECT_FALSE(model.ElemIsActive(1, 7));  // no such stage
   EXPECT_FALSE(model.ElemIsActive(1, -1));
+}
+
+TEST(ElemIsActive, TakesTheWordsOfTheList) {
+  CZelData model;
+  Testing::Grid(model, 2, 2);
+  model.SetMatAnal(4, Data::CMatAnal());
+  Data::CProp2D slab;
+  slab.SetMaterialAnalysis(4);
+  model.SetProp2D(7, slab);
+  model.SetElemProperty(2, 7);
+  model.SetElemProperty(3, 8);
+  model.SetElemGroup(4, 5);
+  model.SetList(6, CEntList(SelElement, L"1 4"));
+  struct Row {
+    wchar_t const* text;
+    std::vector<int> active;
+  };
+  for (auto const& [text, active] :
+       {Row{L"PA7", {2}}, Row{L"P8", {3}}, Row{L"M4", {2}}, Row{L"G5", {4}}, Row{L"#6", {1, 4}},
+        Row{L"all not PA7", {1, 3, 4}}, Row{L"2 to *", {2, 3, 4}}, Row{L"", {}}}) {
+    SCOPED_TRACE(CString(text).ToUtf8());
+    model.SetAnalStage(2, Data::CAnalStage(L"", CEntList(SelElement, CString(text))));
+    std::vector<int> found;
+    for (int n = 1; n <= 4; ++n)
+      if (model.ElemIsActive(n, 2)) found.push_back(n);
+    EXPECT_EQ(found, active);
+  }
+  model.SetElemProperty(1, 7);  // the list follows
+  model.SetAnalStage(2, Data::CAnalStage(L"", CEntList(SelElement, L"PA7")));
+  EXPECT_TRUE(model.ElemIsActive(1, 2));
 }
 
 TEST(IsLoadPanelActive, IsTrueForPanelsOfTheStage) {

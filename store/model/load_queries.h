@@ -1,0 +1,32 @@
+// What loads act on.
+//
+// Queries do not throw: asked about something that does not exist they answer false.
+#pragma once
+
+#include "store/export.h"
+
+namespace Tarvex {
+
+class CZelData;
+namespace Data {
+class CFaceLoad;
+}  // namespace Data
+
+/// Queries of a model about its loads.
+class TARVEX_STORE_EXPORT LoadQueries {
+ public:
+  /// Whether the position of a point load lies on an element: a triangle has r, s and 1 - r - s, a
+  /// quadrilateral 1 - |r| and 1 - |s|, each at least 0 but for rounding.
+  bool ValidatePointLoadPosition(Data::CFaceLoad const& load, int element) const;
+
+ protected:
+  explicit LoadQueries(CZelData const& model) : m_model(model) {}
+  ~LoadQueries() = default;
+  LoadQueries(LoadQueries const&) = delete;
+  LoadQueries& operator=(LoadQueries const&) = delete;
+
+ private:
+  CZelData const& m_model;
+};
+
+}  // namespace Tarvex
