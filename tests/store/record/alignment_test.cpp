@@ -5,7 +5,7 @@
 #include <limits>
 #include <numbers>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::AlignmentTest {
 namespace {
@@ -98,13 +98,13 @@ TEST(Alignment, AsksForAscendingChainages) {
 }
 
 TEST(Alignment, ComparesEveryField) {
-  Testing::ExpectFields<CAlignment>({{"name", [](CAlignment& a) { a.SetName(L"n"); }},
-                                     {"sid", [](CAlignment& a) { a.SetSid(L"s"); }},
-                                     {"colour", [](CAlignment& a) { a.SetColour(1); }},
-                                     {"surface", [](CAlignment& a) { a.SetSurface(2); }},
-                                     {"items", [](CAlignment& a) {
-                                        a.SetItems({{1, 2}});
-                                      }}});
+  Testing::ExpectStoredFields<CAlignment>({{"name", [](CAlignment& a) { a.SetName(L"n"); }},
+                                           {"sid", [](CAlignment& a) { a.SetSid(L"s"); }},
+                                           {"colour", [](CAlignment& a) { a.SetColour(1); }},
+                                           {"surface", [](CAlignment& a) { a.SetSurface(2); }},
+                                           {"items", [](CAlignment& a) {
+                                              a.SetItems({{1, 2}});
+                                            }}});
   Testing::ExpectFields<AlignmentItem>({{"chainage", [](AlignmentItem& i) { i.chainage = 1; }},
                                         {"curvature", [](AlignmentItem& i) { i.curvature = 1; }}});
 }

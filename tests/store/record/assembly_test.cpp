@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::AssemblyTest {
 namespace {
@@ -55,7 +55,7 @@ TEST(Assembly, RefusesOtherThanNodesBetweenAndStoreys) {
 }
 
 TEST(Assembly, ComparesEveryField) {
-  Testing::ExpectFields<CAssembly>(
+  Testing::ExpectStoredFields<CAssembly>(
       {{"name", [](CAssembly& a) { a.SetName(L"n"); }},
        {"sid", [](CAssembly& a) { a.SetSid(L"s"); }},
        {"colour", [](CAssembly& a) { a.SetColour(1); }},

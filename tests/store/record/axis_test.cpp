@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::AxisTest {
 namespace {
@@ -83,7 +83,7 @@ TEST(Axis, ComparesEveryField) {
   using V = Vec3<double>;
   V const x{1, 0, 0};
   V const y{0, 1, 0};
-  Testing::ExpectFields<CAxis>(
+  Testing::ExpectStoredFields<CAxis>(
       {{"name", [](CAxis& a) { a.SetName(L"n"); }},
        {"sid", [](CAxis& a) { a.SetSid(L"s"); }},
        {"colour", [](CAxis& a) { a.SetColour(1); }},

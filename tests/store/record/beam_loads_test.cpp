@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::BeamLoadsTest {
 namespace {
@@ -60,7 +60,7 @@ TEST(BeamLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(BeamLoad, ComparesEveryField) {
-  Testing::ExpectFields<CBeamLoad>(
+  Testing::ExpectStoredFields<CBeamLoad>(
       {{"sid", [](CBeamLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CBeamLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -92,7 +92,7 @@ TEST(BeamDist, TellsWhatItWasTold) {
 }
 
 TEST(BeamDist, ComparesEveryField) {
-  Testing::ExpectFields<CBeamDist>(
+  Testing::ExpectStoredFields<CBeamDist>(
       {{"sid", [](CBeamDist& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CBeamDist& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -115,7 +115,7 @@ TEST(AxialLoad, TellsWhatItWasTold) {
 }
 
 TEST(AxialLoad, ComparesEveryField) {
-  Testing::ExpectFields<CAxialLoad>(
+  Testing::ExpectStoredFields<CAxialLoad>(
       {{"sid", [](CAxialLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CAxialLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -150,7 +150,7 @@ TEST(BeamThermalLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(BeamThermalLoad, ComparesEveryField) {
-  Testing::ExpectFields<CBeamThermalLoad>(
+  Testing::ExpectStoredFields<CBeamThermalLoad>(
       {{"sid", [](CBeamThermalLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CBeamThermalLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::BlockTest {
 namespace {
@@ -53,13 +53,13 @@ TEST(Block, HasMembersAndHowTheyAreRepeated) {
 }
 
 TEST(Block, ComparesEveryField) {
-  Testing::ExpectFields<CBlock>({{"name", [](CBlock& b) { b.SetName(L"n"); }},
-                                 {"sid", [](CBlock& b) { b.SetSid(L"s"); }},
-                                 {"colour", [](CBlock& b) { b.SetColour(1); }},
-                                 {"members", [](CBlock& b) { b.SetMembers({4}); }},
-                                 {"replica", [](CBlock& b) {
-                                    b.SetReplica(CReplica(Steps{{1, {}}}));
-                                  }}});
+  Testing::ExpectStoredFields<CBlock>({{"name", [](CBlock& b) { b.SetName(L"n"); }},
+                                       {"sid", [](CBlock& b) { b.SetSid(L"s"); }},
+                                       {"colour", [](CBlock& b) { b.SetColour(1); }},
+                                       {"members", [](CBlock& b) { b.SetMembers({4}); }},
+                                       {"replica", [](CBlock& b) {
+                                          b.SetReplica(CReplica(Steps{{1, {}}}));
+                                        }}});
 }
 
 }  // namespace

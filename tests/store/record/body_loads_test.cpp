@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::BodyLoadsTest {
 namespace {
@@ -63,7 +63,7 @@ TEST(BodyFaceLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(BodyFaceLoad, ComparesEveryField) {
-  Testing::ExpectFields<CBodyFaceLoad>(
+  Testing::ExpectStoredFields<CBodyFaceLoad>(
       {{"sid", [](CBodyFaceLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CBodyFaceLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -117,7 +117,7 @@ TEST(BodyThermalLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(BodyThermalLoad, ComparesEveryField) {
-  Testing::ExpectFields<CBodyThermalLoad>(
+  Testing::ExpectStoredFields<CBodyThermalLoad>(
       {{"sid", [](CBodyThermalLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CBodyThermalLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -148,7 +148,7 @@ TEST(GravityLoad, TellsWhatItWasTold) {
 }
 
 TEST(GravityLoad, ComparesEveryField) {
-  Testing::ExpectFields<CGravityLoad>(
+  Testing::ExpectStoredFields<CGravityLoad>(
       {{"sid", [](CGravityLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CGravityLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",

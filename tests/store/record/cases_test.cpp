@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::CasesTest {
 namespace {
@@ -59,23 +59,24 @@ TEST(AnalysisCase, IsMadeWithNameDescriptionAndTask) {
 }
 
 TEST(Cases, CompareEveryField) {
-  Testing::ExpectFields<CCombinationCase>(
+  Testing::ExpectStoredFields<CCombinationCase>(
       {{"name", [](auto& c) { c.SetName(L"a"); }},
        {"sid", [](auto& c) { c.SetSid(L"a"); }},
        {"colour", [](auto& c) { c.SetColour(1); }},
        {"description", [](auto& c) { c.SetDescription(CCombCaseDesc(L"A1")); }},
        {"isUsed", [](auto& c) { c.SetIsUsed(false); }}});
-  Testing::ExpectFields<CCaseDescription>(
+  Testing::ExpectStoredFields<CCaseDescription>(
       {{"name", [](auto& c) { c.SetName(L"a"); }},
        {"sid", [](auto& c) { c.SetSid(L"a"); }},
        {"colour", [](auto& c) { c.SetColour(1); }},
        {"description", [](auto& c) { c.SetDescription(L"A1"); }}});
-  Testing::ExpectFields<CAnalysisCase>({{"name", [](auto& c) { c.SetName(L"a"); }},
-                                        {"sid", [](auto& c) { c.SetSid(L"a"); }},
-                                        {"colour", [](auto& c) { c.SetColour(1); }},
-                                        {"description", [](auto& c) { c.SetDescription(L"A1"); }},
-                                        {"task", [](auto& c) { c.SetTask(1); }},
-                                        {"modeDirection", [](auto& c) { c.SetModeDirection(1); }}});
+  Testing::ExpectStoredFields<CAnalysisCase>(
+      {{"name", [](auto& c) { c.SetName(L"a"); }},
+       {"sid", [](auto& c) { c.SetSid(L"a"); }},
+       {"colour", [](auto& c) { c.SetColour(1); }},
+       {"description", [](auto& c) { c.SetDescription(L"A1"); }},
+       {"task", [](auto& c) { c.SetTask(1); }},
+       {"modeDirection", [](auto& c) { c.SetModeDirection(1); }}});
 }
 
 }  // namespace

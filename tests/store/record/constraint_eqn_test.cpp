@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::ConstraintEqnTest {
 namespace {
@@ -53,7 +53,7 @@ TEST(ConstraintEqn, TellsWhatItWasTold) {
 }
 
 TEST(ConstraintEqn, ComparesEveryField) {
-  Testing::ExpectFields<CConstraintEqn>(
+  Testing::ExpectStoredFields<CConstraintEqn>(
       {{"name", [](CConstraintEqn& r) { r.SetName(L"n"); }},
        {"sid", [](CConstraintEqn& r) { r.SetSid(L"s"); }},
        {"colour", [](CConstraintEqn& r) { r.SetColour(1); }},

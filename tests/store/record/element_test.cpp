@@ -6,7 +6,7 @@
 
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::ElementTest {
 namespace {
@@ -249,7 +249,7 @@ TEST(Element, SetTypeKeepsEverythingElse) {
 }
 
 TEST(Element, ComparesEveryField) {
-  Testing::ExpectFields<CElement>(
+  Testing::ExpectStoredFields<CElement>(
       {{"name", [](CElement& e) { e.SetName(L"n"); }},
        {"sid", [](CElement& e) { e.SetSid(L"s"); }},
        {"colour", [](CElement& e) { e.SetColour(1); }},

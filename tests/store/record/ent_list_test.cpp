@@ -7,7 +7,7 @@
 #include "store/select/case_tokens.h"
 #include "tests/support/matchers.h"
 #include "tests/support/plain_list.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::EntListTest {
 namespace {
@@ -286,7 +286,7 @@ TEST(EntList, TellsWhenItsWordsAreNotOfItsKind) {
 }
 
 TEST(EntList, ComparesEveryField) {
-  Testing::ExpectFields<CEntList>({
+  Testing::ExpectStoredFields<CEntList>({
       {"name", [](CEntList& a) { a.SetName(L"n"); }},
       {"sid", [](CEntList& a) { a.SetSid(L"s"); }},
       {"colour", [](CEntList& a) { a.SetColour(1); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::FaceLoadsTest {
 namespace {
@@ -62,7 +62,7 @@ TEST(FaceLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(FaceLoad, ComparesEveryField) {
-  Testing::ExpectFields<CFaceLoad>(
+  Testing::ExpectStoredFields<CFaceLoad>(
       {{"sid", [](CFaceLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CFaceLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -112,7 +112,7 @@ TEST(EdgeLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(EdgeLoad, ComparesEveryField) {
-  Testing::ExpectFields<CEdgeLoad>(
+  Testing::ExpectStoredFields<CEdgeLoad>(
       {{"sid", [](CEdgeLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CEdgeLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -153,7 +153,7 @@ TEST(InPlaneLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(InPlaneLoad, ComparesEveryField) {
-  Testing::ExpectFields<CInPlaneLoad>(
+  Testing::ExpectStoredFields<CInPlaneLoad>(
       {{"sid", [](CInPlaneLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CInPlaneLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",
@@ -203,7 +203,7 @@ TEST(FaceThermalLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(FaceThermalLoad, ComparesEveryField) {
-  Testing::ExpectFields<CFaceThermalLoad>(
+  Testing::ExpectStoredFields<CFaceThermalLoad>(
       {{"sid", [](CFaceThermalLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CFaceThermalLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",

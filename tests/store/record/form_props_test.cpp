@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::FormPropsTest {
 namespace {
@@ -14,10 +14,10 @@ TEST(ForceDensity1D, HasTheNameThatItIsMadeWith) {
 
 TEST(ForceDensity1D, ComparesEveryField) {
   using R = CForceDensity1D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"density", [](R& r) { r.density = 1; }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"density", [](R& r) { r.density = 1; }}});
 }
 
 TEST(SoapStress1D, HasTheNameThatItIsMadeWith) {
@@ -26,10 +26,10 @@ TEST(SoapStress1D, HasTheNameThatItIsMadeWith) {
 
 TEST(SoapStress1D, ComparesEveryField) {
   using R = CSoapStress1D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"force", [](R& r) { r.force = 1; }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"force", [](R& r) { r.force = 1; }}});
 }
 
 TEST(ForceDensity2D, HasTheNameThatItIsMadeWith) {
@@ -38,10 +38,10 @@ TEST(ForceDensity2D, HasTheNameThatItIsMadeWith) {
 
 TEST(ForceDensity2D, ComparesEveryField) {
   using R = CForceDensity2D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"density", [](R& r) { r.density.y = 1; }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"density", [](R& r) { r.density.y = 1; }}});
 }
 
 TEST(SoapStress2D, HasTheNameThatItIsMadeWith) {
@@ -50,11 +50,11 @@ TEST(SoapStress2D, HasTheNameThatItIsMadeWith) {
 
 TEST(SoapStress2D, ComparesEveryField) {
   using R = CSoapStress2D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"stress", [](R& r) { r.stress.x = 1; }},
-                            {"shear", [](R& r) { r.shear = 1; }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"stress", [](R& r) { r.stress.x = 1; }},
+                                  {"shear", [](R& r) { r.shear = 1; }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::GridLineTest {
 namespace {
@@ -18,24 +18,24 @@ TEST(GridLine, IsGivenByLabelStartLengthAngleAndArc) {
 }
 
 TEST(GridLine, ComparesEveryField) {
-  Testing::ExpectFields<CGridLine>({{"name", [](CGridLine& l) { l.SetName(L"n"); }},
-                                    {"sid", [](CGridLine& l) { l.SetSid(L"s"); }},
-                                    {"colour", [](CGridLine& l) { l.SetColour(1); }},
-                                    {"start",
-                                     [](CGridLine& l) {
-                                       l = CGridLine(L"", {0, 1}, 0, 0, 0);
-                                     }},
-                                    {"length",
-                                     [](CGridLine& l) {
-                                       l = CGridLine(L"", {0, 0}, 1, 0, 0);
-                                     }},
-                                    {"angle",
-                                     [](CGridLine& l) {
-                                       l = CGridLine(L"", {0, 0}, 0, 1, 0);
-                                     }},
-                                    {"arc", [](CGridLine& l) {
-                                       l = CGridLine(L"", {0, 0}, 0, 0, 1);
-                                     }}});
+  Testing::ExpectStoredFields<CGridLine>({{"name", [](CGridLine& l) { l.SetName(L"n"); }},
+                                          {"sid", [](CGridLine& l) { l.SetSid(L"s"); }},
+                                          {"colour", [](CGridLine& l) { l.SetColour(1); }},
+                                          {"start",
+                                           [](CGridLine& l) {
+                                             l = CGridLine(L"", {0, 1}, 0, 0, 0);
+                                           }},
+                                          {"length",
+                                           [](CGridLine& l) {
+                                             l = CGridLine(L"", {0, 0}, 1, 0, 0);
+                                           }},
+                                          {"angle",
+                                           [](CGridLine& l) {
+                                             l = CGridLine(L"", {0, 0}, 0, 1, 0);
+                                           }},
+                                          {"arc", [](CGridLine& l) {
+                                             l = CGridLine(L"", {0, 0}, 0, 0, 1);
+                                           }}});
 }
 
 }  // namespace

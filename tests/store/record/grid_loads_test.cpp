@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::GridLoadsTest {
 namespace {
@@ -76,7 +76,7 @@ TEST(GridPointLoad, TellsWhatItWasTold) {
 }
 
 TEST(GridPointLoad, ComparesEveryField) {
-  Testing::ExpectFields<CGridPointLoad>(
+  Testing::ExpectStoredFields<CGridPointLoad>(
       {{"sid", [](CGridPointLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CGridPointLoad& r) { r.SetLoadCase(2); }},
        {"surface", [](CGridPointLoad& r) { r.SetSurface(4); }},
@@ -127,7 +127,7 @@ TEST(GridLineLoad, KeepsItsValuesApartAndRefusesOthers) {
 }
 
 TEST(GridLineLoad, ComparesEveryField) {
-  Testing::ExpectFields<CGridLineLoad>(
+  Testing::ExpectStoredFields<CGridLineLoad>(
       {{"sid", [](CGridLineLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CGridLineLoad& r) { r.SetLoadCase(2); }},
        {"surface", [](CGridLineLoad& r) { r.SetSurface(4); }},
@@ -166,7 +166,7 @@ TEST(GridAreaLoad, TellsWhatItWasTold) {
 }
 
 TEST(GridAreaLoad, ComparesEveryField) {
-  Testing::ExpectFields<CGridAreaLoad>(
+  Testing::ExpectStoredFields<CGridAreaLoad>(
       {{"sid", [](CGridAreaLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CGridAreaLoad& r) { r.SetLoadCase(2); }},
        {"surface", [](CGridAreaLoad& r) { r.SetSurface(4); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::GridPlaneTest {
 namespace {
@@ -24,12 +24,13 @@ TEST(GridPlane, IsGivenByNameAxisElevationAndWhetherItIsAStorey) {
 }
 
 TEST(GridPlane, ComparesEveryField) {
-  Testing::ExpectFields<CGridPlane>({{"name", [](CGridPlane& p) { p.SetName(L"n"); }},
-                                     {"sid", [](CGridPlane& p) { p.SetSid(L"s"); }},
-                                     {"colour", [](CGridPlane& p) { p.SetColour(1); }},
-                                     {"axis", [](CGridPlane& p) { p.SetAxis(2); }},
-                                     {"elevation", [](CGridPlane& p) { p.SetElevation(-0.0); }},
-                                     {"storey", [](CGridPlane& p) { p.SetStorey(true); }}});
+  Testing::ExpectStoredFields<CGridPlane>(
+      {{"name", [](CGridPlane& p) { p.SetName(L"n"); }},
+       {"sid", [](CGridPlane& p) { p.SetSid(L"s"); }},
+       {"colour", [](CGridPlane& p) { p.SetColour(1); }},
+       {"axis", [](CGridPlane& p) { p.SetAxis(2); }},
+       {"elevation", [](CGridPlane& p) { p.SetElevation(-0.0); }},
+       {"storey", [](CGridPlane& p) { p.SetStorey(true); }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::GridSurfaceTest {
 namespace {
@@ -81,7 +81,7 @@ TEST(GridSurface, LosesPanelsWhenWhatTheyFollowFromIsSet) {
 }
 
 TEST(GridSurface, ComparesEveryFieldAndNoPanels) {
-  Testing::ExpectFields<CGridSurface>(
+  Testing::ExpectStoredFields<CGridSurface>(
       {{"name", [](CGridSurface& s) { s.SetName(L"n"); }},
        {"sid", [](CGridSurface& s) { s.SetSid(L"s"); }},
        {"colour", [](CGridSurface& s) { s.SetColour(1); }},

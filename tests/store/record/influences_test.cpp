@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::InfluencesTest {
 namespace {
@@ -27,10 +27,11 @@ TEST(InfluenceNode, TellsWhatItWasTold) {
 }
 
 TEST(InfluenceNode, ComparesEveryField) {
-  Testing::ExpectFields<CInfluenceNode>({{"name", [](CInfluenceNode& r) { r.SetName(L"n"); }},
-                                         {"sid", [](CInfluenceNode& r) { r.SetSid(L"s"); }},
-                                         {"colour", [](CInfluenceNode& r) { r.SetColour(1); }},
-                                         {"node", [](CInfluenceNode& r) { r.SetNode(7); }}});
+  Testing::ExpectStoredFields<CInfluenceNode>(
+      {{"name", [](CInfluenceNode& r) { r.SetName(L"n"); }},
+       {"sid", [](CInfluenceNode& r) { r.SetSid(L"s"); }},
+       {"colour", [](CInfluenceNode& r) { r.SetColour(1); }},
+       {"node", [](CInfluenceNode& r) { r.SetNode(7); }}});
 }
 
 TEST(InfluenceBeam, TellsWhatItWasTold) {
@@ -46,10 +47,11 @@ TEST(InfluenceBeam, TellsWhatItWasTold) {
 }
 
 TEST(InfluenceBeam, ComparesEveryField) {
-  Testing::ExpectFields<CInfluenceBeam>({{"name", [](CInfluenceBeam& r) { r.SetName(L"n"); }},
-                                         {"sid", [](CInfluenceBeam& r) { r.SetSid(L"s"); }},
-                                         {"colour", [](CInfluenceBeam& r) { r.SetColour(1); }},
-                                         {"elem", [](CInfluenceBeam& r) { r.SetElem(7); }}});
+  Testing::ExpectStoredFields<CInfluenceBeam>(
+      {{"name", [](CInfluenceBeam& r) { r.SetName(L"n"); }},
+       {"sid", [](CInfluenceBeam& r) { r.SetSid(L"s"); }},
+       {"colour", [](CInfluenceBeam& r) { r.SetColour(1); }},
+       {"elem", [](CInfluenceBeam& r) { r.SetElem(7); }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::InteractionsTest {
 namespace {
@@ -46,7 +46,7 @@ TEST(RaftInteraction, TellsWhatItWasTold) {
 }
 
 TEST(RaftInteraction, ComparesEveryField) {
-  Testing::ExpectFields<CRaftInteraction>(
+  Testing::ExpectStoredFields<CRaftInteraction>(
       {{"name", [](CRaftInteraction& r) { r.SetName(L"n"); }},
        {"sid", [](CRaftInteraction& r) { r.SetSid(L"s"); }},
        {"colour", [](CRaftInteraction& r) { r.SetColour(1); }},
@@ -71,7 +71,7 @@ TEST(PileInteraction, TellsWhatItWasTold) {
 }
 
 TEST(PileInteraction, ComparesEveryField) {
-  Testing::ExpectFields<CPileInteraction>(
+  Testing::ExpectStoredFields<CPileInteraction>(
       {{"name", [](CPileInteraction& r) { r.SetName(L"n"); }},
        {"sid", [](CPileInteraction& r) { r.SetSid(L"s"); }},
        {"colour", [](CPileInteraction& r) { r.SetColour(1); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::JointTest {
 namespace {
@@ -36,7 +36,7 @@ TEST(Joint, TellsWhatItWasTold) {
 }
 
 TEST(Joint, ComparesEveryField) {
-  Testing::ExpectFields<CJoint>(
+  Testing::ExpectStoredFields<CJoint>(
       {{"name", [](CJoint& r) { r.SetName(L"n"); }},
        {"sid", [](CJoint& r) { r.SetSid(L"s"); }},
        {"colour", [](CJoint& r) { r.SetColour(1); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::LinkPropTest {
 namespace {
@@ -25,10 +25,10 @@ TEST(LinkProp, IsCustomWhenItsTypeHasNoName) {
 
 TEST(LinkProp, ComparesEveryField) {
   using R = CLinkProp;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"type", [](R& r) { r.SetType(CLinkProp::Type::Diaphragm); }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"type", [](R& r) { r.SetType(CLinkProp::Type::Diaphragm); }}});
 }
 
 }  // namespace

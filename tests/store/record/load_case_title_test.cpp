@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::LoadCaseTitleTest {
 namespace {
@@ -39,14 +39,15 @@ TEST(LoadCaseTitle, GivesBackWhatIsSet) {
 }
 
 TEST(LoadCaseTitle, ComparesEveryField) {
-  Testing::ExpectFields<CLoadCaseTitle>({{"name", [](auto& t) { t.SetName(L"a"); }},
-                                         {"sid", [](auto& t) { t.SetSid(L"a"); }},
-                                         {"colour", [](auto& t) { t.SetColour(1); }},
-                                         {"type", [](auto& t) { t.SetType(CaseType::Soil); }},
-                                         {"source", [](auto& t) { t.SetSource(2); }},
-                                         {"category", [](auto& t) { t.SetCategory(2); }},
-                                         {"permanentMode", [](auto& t) { t.SetPermanentMode(2); }},
-                                         {"direction", [](auto& t) { t.SetDirection(2); }}});
+  Testing::ExpectStoredFields<CLoadCaseTitle>(
+      {{"name", [](auto& t) { t.SetName(L"a"); }},
+       {"sid", [](auto& t) { t.SetSid(L"a"); }},
+       {"colour", [](auto& t) { t.SetColour(1); }},
+       {"type", [](auto& t) { t.SetType(CaseType::Soil); }},
+       {"source", [](auto& t) { t.SetSource(2); }},
+       {"category", [](auto& t) { t.SetCategory(2); }},
+       {"permanentMode", [](auto& t) { t.SetPermanentMode(2); }},
+       {"direction", [](auto& t) { t.SetDirection(2); }}});
 }
 
 TEST(CaseType, HasTheNumbersOfRecordedWork) {

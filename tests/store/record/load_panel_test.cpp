@@ -6,7 +6,7 @@
 
 #include "tests/support/builders.h"
 #include "tests/support/print.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::LoadPanelTest {
 namespace {
@@ -43,7 +43,7 @@ TEST(LoadPanel, KeepsWhatIsSet) {
 }
 
 TEST(LoadPanel, ComparesEveryField) {
-  Testing::ExpectFields<LoadPanel>(
+  Testing::ExpectStoredFields<LoadPanel>(
       {{"name", [](LoadPanel& p) { p.SetName(L"n"); }},
        {"sid", [](LoadPanel& p) { p.SetSid(L"s"); }},
        {"colour", [](LoadPanel& p) { p.SetColour(1); }},

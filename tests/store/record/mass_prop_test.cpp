@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::MassPropTest {
 namespace {
@@ -37,17 +37,17 @@ TEST(MassProp, KeepsWhatIsSet) {
 
 TEST(MassProp, ComparesEveryField) {
   using R = CMassProp;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"mass", [](R& r) { r.SetMass(1); }},
-                            {"inertia",
-                             [](R& r) {
-                               r.SetInertia({0, 0, 0, 0, 1, 0});
-                             }},
-                            {"factors", [](R& r) {
-                               r.SetFactors({1, 1, 0});
-                             }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"mass", [](R& r) { r.SetMass(1); }},
+                                  {"inertia",
+                                   [](R& r) {
+                                     r.SetInertia({0, 0, 0, 0, 1, 0});
+                                   }},
+                                  {"factors", [](R& r) {
+                                     r.SetFactors({1, 1, 0});
+                                   }}});
 }
 
 TEST(TensSym3, ComparesEveryTerm) {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::MatAnalTest {
 namespace {
@@ -48,7 +48,7 @@ TEST(MatAnal, RefusesAValueThatThereIsNot) {
 
 TEST(MatAnal, ComparesEveryField) {
   using R = CMatAnal;
-  Testing::ExpectFields<R>(
+  Testing::ExpectStoredFields<R>(
       {{"name", [](R& r) { r.SetName(L"n"); }},
        {"sid", [](R& r) { r.SetSid(L"s"); }},
        {"colour", [](R& r) { r.SetColour(1); }},

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::MatTablesTest {
 namespace {
@@ -25,12 +25,12 @@ TEST(MatCurve, IsARowOfPoints) {
 
 TEST(MatCurve, ComparesEveryField) {
   using R = Curve;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"points", [](R& r) {
-                               r.SetPoints({{1, 2}});
-                             }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"points", [](R& r) {
+                                     r.SetPoints({{1, 2}});
+                                   }}});
 }
 
 TEST(MatMatrix, HasATermForEachPairOfDirections) {
@@ -57,7 +57,7 @@ TEST(MatMatrix, RefusesADirectionThatThereIsNot) {
 
 TEST(MatMatrix, ComparesEveryField) {
   using R = CMatMatrix;
-  Testing::ExpectFields<R>(
+  Testing::ExpectStoredFields<R>(
       {{"name", [](R& r) { r.SetName(L"n"); }},
        {"sid", [](R& r) { r.SetSid(L"s"); }},
        {"colour", [](R& r) { r.SetColour(1); }},

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "store/record/variant_element.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::MemberTest {
 namespace {
@@ -183,7 +183,7 @@ TEST(Member, PointsByItsPropertyIntoTheTableOfItsElements) {
 }
 
 TEST(Member, ComparesEveryField) {
-  Testing::ExpectFields<CMember>(
+  Testing::ExpectStoredFields<CMember>(
       {{"name", [](CMember& m) { m.SetName(L"B1"); }},
        {"sid", [](CMember& m) { m.SetSid(L"s"); }},
        {"colour", [](CMember& m) { m.SetColour(0x123456); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::NodeLoadTest {
 namespace {
@@ -42,7 +42,7 @@ TEST(NodeLoad, TakesListsOfNodesAndNoOthers) {
 }
 
 TEST(NodeLoad, ComparesEveryFieldAndNotItsTable) {
-  Testing::ExpectFields<CNodeLoad>(
+  Testing::ExpectStoredFields<CNodeLoad>(
       {{"sid", [](CNodeLoad& r) { r.SetSid(L"s"); }},
        {"loadCase", [](CNodeLoad& r) { r.SetLoadCase(2); }},
        {"loadedEntities",

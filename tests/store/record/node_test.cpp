@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/print.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::NodeTest {
 namespace {
@@ -68,19 +68,20 @@ TEST(Node, GivesAttachmentsByKind) {
 }
 
 TEST(Node, ComparesEveryField) {
-  Testing::ExpectFields<CNode>({{"name", [](CNode& n) { n.SetName(L"n"); }},
-                                {"sid", [](CNode& n) { n.SetSid(L"s"); }},
-                                {"colour", [](CNode& n) { n.SetColour(1); }},
-                                {"position",
-                                 [](CNode& n) {
-                                   n.SetPosition({0, -0.0, 0});
-                                 }},
-                                {"axis", [](CNode& n) { n.SetAxis(1); }},
-                                {"restraint", [](CNode& n) { n.SetRestraint(Vbool6(L"pin")); }},
-                                {"springProperty", [](CNode& n) { n.SetSpringProperty(1); }},
-                                {"massProperty", [](CNode& n) { n.SetMassProperty(1); }},
-                                {"damperProperty", [](CNode& n) { n.SetDamperProperty(1); }},
-                                {"meshSize", [](CNode& n) { n.SetMeshSize(1); }}});
+  Testing::ExpectStoredFields<CNode>(
+      {{"name", [](CNode& n) { n.SetName(L"n"); }},
+       {"sid", [](CNode& n) { n.SetSid(L"s"); }},
+       {"colour", [](CNode& n) { n.SetColour(1); }},
+       {"position",
+        [](CNode& n) {
+          n.SetPosition({0, -0.0, 0});
+        }},
+       {"axis", [](CNode& n) { n.SetAxis(1); }},
+       {"restraint", [](CNode& n) { n.SetRestraint(Vbool6(L"pin")); }},
+       {"springProperty", [](CNode& n) { n.SetSpringProperty(1); }},
+       {"massProperty", [](CNode& n) { n.SetMassProperty(1); }},
+       {"damperProperty", [](CNode& n) { n.SetDamperProperty(1); }},
+       {"meshSize", [](CNode& n) { n.SetMeshSize(1); }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::PolylineTest {
 namespace {
@@ -25,13 +25,13 @@ TEST(Polyline, HasNoPointsAtFirst) {
 }
 
 TEST(Polyline, ComparesEveryField) {
-  Testing::ExpectFields<CPolyline>({{"name", [](CPolyline& p) { p.SetName(L"n"); }},
-                                    {"sid", [](CPolyline& p) { p.SetSid(L"s"); }},
-                                    {"colour", [](CPolyline& p) { p.SetColour(1); }},
-                                    {"plane", [](CPolyline& p) { p.SetPlane(2); }},
-                                    {"points", [](CPolyline& p) {
-                                       p.SetPoints({{1, 2}});
-                                     }}});
+  Testing::ExpectStoredFields<CPolyline>({{"name", [](CPolyline& p) { p.SetName(L"n"); }},
+                                          {"sid", [](CPolyline& p) { p.SetSid(L"s"); }},
+                                          {"colour", [](CPolyline& p) { p.SetColour(1); }},
+                                          {"plane", [](CPolyline& p) { p.SetPlane(2); }},
+                                          {"points", [](CPolyline& p) {
+                                             p.SetPoints({{1, 2}});
+                                           }}});
 }
 
 TEST(Polyline, ComparesPointsToTheBit) {

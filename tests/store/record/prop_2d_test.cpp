@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::Prop2DTest {
 namespace {
@@ -75,20 +75,20 @@ TEST(SetFromDesc, LeavesTheThicknessForATextThatIsNone) {
 
 TEST(Prop2D, ComparesEveryField) {
   using R = CProp2D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"type", [](R& r) { r.SetType(PropertyType2d::Wall); }},
-                            {"materialAnalysis", [](R& r) { r.SetMaterialAnalysis(1); }},
-                            {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }},
-                            {"axis", [](R& r) { r.SetAxis(1); }},
-                            {"surface", [](R& r) { r.SetReferenceSurface(Surface2d::Top); }},
-                            {"thickness", [](R& r) { r.SetThickness(1); }},
-                            {"effective",
-                             [](R& r) {
-                               r.SetEffective({1, 1, 2});
-                             }},
-                            {"additionalMass", [](R& r) { r.SetAdditionalMass(1); }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"type", [](R& r) { r.SetType(PropertyType2d::Wall); }},
+                                  {"materialAnalysis", [](R& r) { r.SetMaterialAnalysis(1); }},
+                                  {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }},
+                                  {"axis", [](R& r) { r.SetAxis(1); }},
+                                  {"surface", [](R& r) { r.SetReferenceSurface(Surface2d::Top); }},
+                                  {"thickness", [](R& r) { r.SetThickness(1); }},
+                                  {"effective",
+                                   [](R& r) {
+                                     r.SetEffective({1, 1, 2});
+                                   }},
+                                  {"additionalMass", [](R& r) { r.SetAdditionalMass(1); }}});
 }
 
 TEST(EffectiveThickness, ComparesEveryFactor) {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::Prop3DTest {
 namespace {
@@ -33,13 +33,13 @@ TEST(Prop3D, KeepsWhatIsSet) {
 
 TEST(Prop3D, ComparesEveryField) {
   using R = CProp3D;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"type", [](R& r) { r.SetType(CProp3D::PropType::Soil); }},
-                            {"materialAnalysis", [](R& r) { r.SetMaterialAnalysis(1); }},
-                            {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }},
-                            {"axis", [](R& r) { r.SetAxis(1); }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"type", [](R& r) { r.SetType(CProp3D::PropType::Soil); }},
+                                  {"materialAnalysis", [](R& r) { r.SetMaterialAnalysis(1); }},
+                                  {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }},
+                                  {"axis", [](R& r) { r.SetAxis(1); }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::ResSpectrumTest {
 namespace {
@@ -36,15 +36,15 @@ TEST(ResSpectrum, KeepsWhatIsSet) {
 
 TEST(ResSpectrum, ComparesEveryField) {
   using R = CResSpectrum;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"codeType", [](R& r) { r.SetCodeType(1); }},
-                            {"factor", [](R& r) { r.SetFactor(2); }},
-                            {"dampingRatio", [](R& r) { r.SetDampingRatio(1); }},
-                            {"points", [](R& r) {
-                               r.SetPoints({{1, 1}});
-                             }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"codeType", [](R& r) { r.SetCodeType(1); }},
+                                  {"factor", [](R& r) { r.SetFactor(2); }},
+                                  {"dampingRatio", [](R& r) { r.SetDampingRatio(1); }},
+                                  {"points", [](R& r) {
+                                     r.SetPoints({{1, 1}});
+                                   }}});
 }
 
 }  // namespace

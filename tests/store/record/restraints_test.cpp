@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::RestraintsTest {
 namespace {
@@ -44,7 +44,7 @@ TEST(GenRest, TellsWhatItWasTold) {
 }
 
 TEST(GenRest, ComparesEveryField) {
-  Testing::ExpectFields<CGenRest>(
+  Testing::ExpectStoredFields<CGenRest>(
       {{"name", [](CGenRest& r) { r.SetName(L"n"); }},
        {"sid", [](CGenRest& r) { r.SetSid(L"s"); }},
        {"colour", [](CGenRest& r) { r.SetColour(1); }},
@@ -70,7 +70,7 @@ TEST(TiedInterface, TellsWhatItWasTold) {
 }
 
 TEST(TiedInterface, ComparesEveryField) {
-  Testing::ExpectFields<CTiedInterface>(
+  Testing::ExpectStoredFields<CTiedInterface>(
       {{"name", [](CTiedInterface& r) { r.SetName(L"n"); }},
        {"sid", [](CTiedInterface& r) { r.SetSid(L"s"); }},
        {"colour", [](CTiedInterface& r) { r.SetColour(1); }},

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::RigidTest {
 namespace {
@@ -75,7 +75,7 @@ TEST(Rigid, TellsWhatItWasTold) {
 }
 
 TEST(Rigid, ComparesEveryField) {
-  Testing::ExpectFields<CRigid>(
+  Testing::ExpectStoredFields<CRigid>(
       {{"name", [](CRigid& r) { r.SetName(L"n"); }},
        {"sid", [](CRigid& r) { r.SetSid(L"s"); }},
        {"colour", [](CRigid& r) { r.SetColour(1); }},

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::SectionTest {
 namespace {
@@ -114,12 +114,13 @@ TEST(SecComp, ComparesEveryField) {
 
 TEST(Section, ComparesEveryField) {
   using R = CSection;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"components", [](R& r) { r.SetComponent(0, CSecComp()); }},
-                            {"refPoint", [](R& r) { r.SetRefPoint(CSecRefPoint(Place::TopLeft)); }},
-                            {"additionalMass", [](R& r) { r.SetAdditionalMass(1); }}});
+  Testing::ExpectStoredFields<R>(
+      {{"name", [](R& r) { r.SetName(L"n"); }},
+       {"sid", [](R& r) { r.SetSid(L"s"); }},
+       {"colour", [](R& r) { r.SetColour(1); }},
+       {"components", [](R& r) { r.SetComponent(0, CSecComp()); }},
+       {"refPoint", [](R& r) { r.SetRefPoint(CSecRefPoint(Place::TopLeft)); }},
+       {"additionalMass", [](R& r) { r.SetAdditionalMass(1); }}});
 }
 
 }  // namespace

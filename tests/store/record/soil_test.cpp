@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::SoilTest {
 namespace {
@@ -39,10 +39,10 @@ TEST(GeoSoilProfile, IsARowOfLayers) {
 
 TEST(GeoSoilProfile, ComparesEveryField) {
   using R = GeoSoilProfile;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"strata", [](R& r) { r.SetStrata({Clay()}); }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"strata", [](R& r) { r.SetStrata({Clay()}); }}});
 }
 
 TEST(GeoSoilZone, IsARectangleWithItsProfile) {
@@ -62,14 +62,14 @@ TEST(GeoSoilZone, IsARectangleWithItsProfile) {
 
 TEST(GeoSoilZone, ComparesEveryField) {
   using R = GeoSoilZone;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"profile", [](R& r) { r.SetProfile(GeoID(1)); }},
-                            {"xmin", [](R& r) { r.SetX(1, 0); }},
-                            {"xmax", [](R& r) { r.SetX(0, 1); }},
-                            {"ymin", [](R& r) { r.SetY(1, 0); }},
-                            {"ymax", [](R& r) { r.SetY(0, 1); }}});
+  Testing::ExpectStoredFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
+                                  {"sid", [](R& r) { r.SetSid(L"s"); }},
+                                  {"colour", [](R& r) { r.SetColour(1); }},
+                                  {"profile", [](R& r) { r.SetProfile(GeoID(1)); }},
+                                  {"xmin", [](R& r) { r.SetX(1, 0); }},
+                                  {"xmax", [](R& r) { r.SetX(0, 1); }},
+                                  {"ymin", [](R& r) { r.SetY(1, 0); }},
+                                  {"ymax", [](R& r) { r.SetY(0, 1); }}});
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "tests/support/print.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::SpecTest {
 namespace {
@@ -111,7 +111,7 @@ TEST(Defaults, KeepEachNameByItself) {
 }
 
 TEST(OneOffs, CompareEveryField) {
-  Testing::ExpectFields<CSpec>(
+  Testing::ExpectStoredFields<CSpec>(
       {{"genTol", [](CSpec& s) { s.SetGenTol(TolType::AxisAngle, 2); }},
        {"unit",
         [](CSpec& s) {
@@ -123,7 +123,7 @@ TEST(OneOffs, CompareEveryField) {
        {"country", [](CSpec& s) { s.SetCountry(CCountry(80)); }},
        {"zElevation", [](CSpec& s) { s.SetZElevation(3); }},
        {"structType", [](CSpec& s) { s.SetStructType(StrType::GridXY); }}});
-  Testing::ExpectFields<CRaftSpec>({{"topLevel", [](CRaftSpec& s) { s.SetTopLevel(3); }}});
+  Testing::ExpectStoredFields<CRaftSpec>({{"topLevel", [](CRaftSpec& s) { s.SetTopLevel(3); }}});
   Testing::ExpectFields<CUnit>({{"length", [](CUnit& u) { u.SetConversion(CUnit::kLength, 2); }},
                                 {"angle", [](CUnit& u) { u.SetConversion(CUnit::kAngle, 2); }}});
   Testing::ExpectFields<GenTolerances>(
@@ -131,7 +131,7 @@ TEST(OneOffs, CompareEveryField) {
        {"vertical", [](GenTolerances& t) { t.vertical = 1; }},
        {"axisAngle", [](GenTolerances& t) { t.axisAngle = 2; }},
        {"coincidence", [](GenTolerances& t) { t.coincidence = 1; }}});
-  Testing::ExpectFields<CDefaults>(
+  Testing::ExpectStoredFields<CDefaults>(
       {{"analysisTaskName", [](CDefaults& d) { d.SetAnalysisTaskName(L""); }},
        {"analysisCaseName", [](CDefaults& d) { d.SetAnalysisCaseName(L""); }},
        {"combinationCaseName", [](CDefaults& d) { d.SetCombinationCaseName(L""); }}});

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/matchers.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::SpringPropTest {
 namespace {
@@ -61,17 +61,18 @@ TEST(SpringProp, RefusesADirectionThatThereIsNot) {
 
 TEST(SpringProp, ComparesEveryField) {
   using R = CSpringProp;
-  Testing::ExpectFields<R>({{"name", [](R& r) { r.SetName(L"n"); }},
-                            {"sid", [](R& r) { r.SetSid(L"s"); }},
-                            {"colour", [](R& r) { r.SetColour(1); }},
-                            {"type", [](R& r) { r.SetType(SpringType::Friction); }},
-                            {"stiffness", [](R& r) { r.SetStiffness(Direction::Z, 1); }},
-                            {"lateralStiffness", [](R& r) { r.SetLateralStiffness(1); }},
-                            {"tableRef", [](R& r) { r.SetTableRef(Direction::Y, 1); }},
-                            {"matrix", [](R& r) { r.SetMatrix(1); }},
-                            {"frictionCoefficient", [](R& r) { r.SetFrictionCoefficient(1); }},
-                            {"lowerLimit", [](R& r) { r.SetLimits(1, 0); }},
-                            {"upperLimit", [](R& r) { r.SetLimits(0, 1); }}});
+  Testing::ExpectStoredFields<R>(
+      {{"name", [](R& r) { r.SetName(L"n"); }},
+       {"sid", [](R& r) { r.SetSid(L"s"); }},
+       {"colour", [](R& r) { r.SetColour(1); }},
+       {"type", [](R& r) { r.SetType(SpringType::Friction); }},
+       {"stiffness", [](R& r) { r.SetStiffness(Direction::Z, 1); }},
+       {"lateralStiffness", [](R& r) { r.SetLateralStiffness(1); }},
+       {"tableRef", [](R& r) { r.SetTableRef(Direction::Y, 1); }},
+       {"matrix", [](R& r) { r.SetMatrix(1); }},
+       {"frictionCoefficient", [](R& r) { r.SetFrictionCoefficient(1); }},
+       {"lowerLimit", [](R& r) { r.SetLimits(1, 0); }},
+       {"upperLimit", [](R& r) { r.SetLimits(0, 1); }}});
 }
 
 }  // namespace

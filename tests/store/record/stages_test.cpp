@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::StagesTest {
 namespace {
@@ -64,18 +64,18 @@ TEST(PropertyType, HasItsNumbersAndTables) {
 }
 
 TEST(Stages, CompareEveryField) {
-  Testing::ExpectFields<CAnalStage>(
+  Testing::ExpectStoredFields<CAnalStage>(
       {{"name", [](auto& s) { s.SetName(L"a"); }},
        {"sid", [](auto& s) { s.SetSid(L"a"); }},
        {"colour", [](auto& s) { s.SetColour(1); }},
        {"stageElem", [](auto& s) { s.SetStageElem(CEntList(SelElement, L"1")); }}});
-  Testing::ExpectFields<CAnalStageProp>(
+  Testing::ExpectStoredFields<CAnalStageProp>(
       {{"sid", [](auto& s) { s.SetSid(L"a"); }},
        {"stage", [](auto& s) { s.SetStage(1); }},
        {"propType", [](auto& s) { s.SetPropType(PropertyType::Solid); }},
        {"elemProp", [](auto& s) { s.SetElemProp(1); }},
        {"propRec", [](auto& s) { s.SetPropRec(1); }}});
-  Testing::ExpectFields<CAnalStageMat>(
+  Testing::ExpectStoredFields<CAnalStageMat>(
       {{"sid", [](auto& s) { s.SetSid(L"a"); }},
        {"stage", [](auto& s) { s.SetStage(1); }},
        {"elemOriginalMat", [](auto& s) { s.SetElemOriginalMat(1); }},

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "store/record/task_slot.h"
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::TasksTest {
 namespace {
@@ -224,7 +224,7 @@ TEST(VisitTask, GivesEachTaskAsItsClass) {
 }
 
 TEST(Tasks, CompareEveryField) {
-  Testing::ExpectFields<CZssTask>(
+  Testing::ExpectStoredFields<CZssTask>(
       {{"name", [](auto& t) { t.SetName(L"a"); }},
        {"sid", [](auto& t) { t.SetSid(L"a"); }},
        {"colour", [](auto& t) { t.SetColour(1); }},
@@ -251,19 +251,20 @@ TEST(Tasks, CompareEveryField) {
                                       {"shift", [](auto& m) { m.shift = 2; }}});
   Testing::ExpectFields<CRelDisp>(
       {{"axis", [](auto& d) { d.SetAxis(1); }}, {"nodes", [](auto& d) { d.SetNode(2, 1); }}});
-  Testing::ExpectFields<CZdSpecTask>({{"name", [](auto& t) { t.SetName(L"a"); }},
-                                      {"sid", [](auto& t) { t.SetSid(L"a"); }},
-                                      {"colour", [](auto& t) { t.SetColour(1); }},
-                                      {"solution", [](auto& t) { t.SetSolution(AnalSoln::Modal); }},
-                                      {"status", [](auto& t) { t.SetStatus(TaskStatus::Done); }},
-                                      {"stage", [](auto& t) { t.SetStage(1); }},
-                                      {"cases", [](auto& t) { t.SetCases({1}); }},
-                                      {"task", [](auto& t) { t.SetTask(1); }},
-                                      {"load", [](auto& t) { t.SetLoad(L"L1"); }},
-                                      {"source", [](auto& t) { t.SetSource(2); }},
-                                      {"spectrum", [](auto& t) { t.SetSpectrum(Direction::Y, 1); }},
-                                      {"relDisp", [](auto& t) { t.SetRelDisp(0, CRelDisp()); }}});
-  Testing::ExpectFields<CEnvelopeTask>(
+  Testing::ExpectStoredFields<CZdSpecTask>(
+      {{"name", [](auto& t) { t.SetName(L"a"); }},
+       {"sid", [](auto& t) { t.SetSid(L"a"); }},
+       {"colour", [](auto& t) { t.SetColour(1); }},
+       {"solution", [](auto& t) { t.SetSolution(AnalSoln::Modal); }},
+       {"status", [](auto& t) { t.SetStatus(TaskStatus::Done); }},
+       {"stage", [](auto& t) { t.SetStage(1); }},
+       {"cases", [](auto& t) { t.SetCases({1}); }},
+       {"task", [](auto& t) { t.SetTask(1); }},
+       {"load", [](auto& t) { t.SetLoad(L"L1"); }},
+       {"source", [](auto& t) { t.SetSource(2); }},
+       {"spectrum", [](auto& t) { t.SetSpectrum(Direction::Y, 1); }},
+       {"relDisp", [](auto& t) { t.SetRelDisp(0, CRelDisp()); }}});
+  Testing::ExpectStoredFields<CEnvelopeTask>(
       {{"name", [](auto& t) { t.SetName(L"a"); }},
        {"sid", [](auto& t) { t.SetSid(L"a"); }},
        {"colour", [](auto& t) { t.SetColour(1); }},
@@ -272,7 +273,7 @@ TEST(Tasks, CompareEveryField) {
        {"stage", [](auto& t) { t.SetStage(1); }},
        {"cases", [](auto& t) { t.SetCases({1}); }},
        {"desc", [](auto& t) { t.SetDesc(L"A1", nullptr); }}});
-  Testing::ExpectFields<CFormRelaxTask>(
+  Testing::ExpectStoredFields<CFormRelaxTask>(
       {{"name", [](auto& t) { t.SetName(L"a"); }},
        {"sid", [](auto& t) { t.SetSid(L"a"); }},
        {"colour", [](auto& t) { t.SetColour(1); }},
@@ -281,9 +282,9 @@ TEST(Tasks, CompareEveryField) {
        {"stage", [](auto& t) { t.SetStage(1); }},
        {"cases", [](auto& t) { t.SetCases({1}); }},
        {"eulerElemList", [](auto& t) { t.SetEulerElemList(Elements(L"1")); }}});
-  Testing::ExpectFields<CDesignTask>({{"name", [](auto& t) { t.SetName(L"a"); }},
-                                      {"sid", [](auto& t) { t.SetSid(L"a"); }},
-                                      {"colour", [](auto& t) { t.SetColour(1); }}});
+  Testing::ExpectStoredFields<CDesignTask>({{"name", [](auto& t) { t.SetName(L"a"); }},
+                                            {"sid", [](auto& t) { t.SetSid(L"a"); }},
+                                            {"colour", [](auto& t) { t.SetColour(1); }}});
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/record_fields.h"
+#include "tests/support/stored_fields.h"
 
 namespace Tarvex::Data::ViewsTest {
 namespace {
@@ -99,32 +99,32 @@ TEST(OpView, HoldsWhatItTellsInOrder) {
 }
 
 TEST(GrView, ComparesEveryField) {
-  Testing::ExpectFields<CGrView>({{"name", [](CGrView& v) { v.SetName(L"n"); }},
-                                  {"sid", [](CGrView& v) { v.SetSid(L"s"); }},
-                                  {"colour", [](CGrView& v) { v.SetColour(1); }},
-                                  {"nodes", [](CGrView& v) { v.SetNodes(CEntList()); }},
-                                  {"elements", [](CGrView& v) { v.SetElements(CEntList()); }},
-                                  {"members", [](CGrView& v) { v.SetMembers(CEntList()); }},
-                                  {"hiLiteElements",
-                                   [](CGrView& v) {
-                                     v.SetHiLiteElements({SelElement, L"1"});
-                                   }},
-                                  {"hiLiteMembers",
-                                   [](CGrView& v) {
-                                     v.SetHiLiteMembers({SelMember, L"1"});
-                                   }},
-                                  {"data", [](CGrView& v) { v.SetGrData(0, CGrData()); }}});
+  Testing::ExpectStoredFields<CGrView>({{"name", [](CGrView& v) { v.SetName(L"n"); }},
+                                        {"sid", [](CGrView& v) { v.SetSid(L"s"); }},
+                                        {"colour", [](CGrView& v) { v.SetColour(1); }},
+                                        {"nodes", [](CGrView& v) { v.SetNodes(CEntList()); }},
+                                        {"elements", [](CGrView& v) { v.SetElements(CEntList()); }},
+                                        {"members", [](CGrView& v) { v.SetMembers(CEntList()); }},
+                                        {"hiLiteElements",
+                                         [](CGrView& v) {
+                                           v.SetHiLiteElements({SelElement, L"1"});
+                                         }},
+                                        {"hiLiteMembers",
+                                         [](CGrView& v) {
+                                           v.SetHiLiteMembers({SelMember, L"1"});
+                                         }},
+                                        {"data", [](CGrView& v) { v.SetGrData(0, CGrData()); }}});
 }
 
 TEST(OpView, ComparesEveryField) {
-  Testing::ExpectFields<COpView>({{"name", [](COpView& v) { v.SetName(L"n"); }},
-                                  {"sid", [](COpView& v) { v.SetSid(L"s"); }},
-                                  {"colour", [](COpView& v) { v.SetColour(1); }},
-                                  {"nodes", [](COpView& v) { v.SetNodes(CEntList()); }},
-                                  {"elements", [](COpView& v) { v.SetElements(CEntList()); }},
-                                  {"members", [](COpView& v) { v.SetMembers(CEntList()); }},
-                                  {"axis", [](COpView& v) { v.SetAxis(2); }},
-                                  {"data", [](COpView& v) { v.SetOpData(0, COpData()); }}});
+  Testing::ExpectStoredFields<COpView>({{"name", [](COpView& v) { v.SetName(L"n"); }},
+                                        {"sid", [](COpView& v) { v.SetSid(L"s"); }},
+                                        {"colour", [](COpView& v) { v.SetColour(1); }},
+                                        {"nodes", [](COpView& v) { v.SetNodes(CEntList()); }},
+                                        {"elements", [](COpView& v) { v.SetElements(CEntList()); }},
+                                        {"members", [](COpView& v) { v.SetMembers(CEntList()); }},
+                                        {"axis", [](COpView& v) { v.SetAxis(2); }},
+                                        {"data", [](COpView& v) { v.SetOpData(0, COpData()); }}});
 }
 
 TEST(ViewItems, CompareTheirAxis) {
