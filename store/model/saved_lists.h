@@ -8,6 +8,7 @@
 
 #include "store/export.h"
 #include "store/record/ent_list.h"
+#include "store/select/reached.h"
 #include "store/table/paged_table.h"
 
 namespace Tarvex {
@@ -51,10 +52,7 @@ class TARVEX_STORE_EXPORT SavedLists {
 };
 
 /// The saved lists that some lists reach.
-struct ReachedLists {
-  std::vector<int> order;  ///< each behind those that it refers to, but for those that go round
-  std::set<int> endless;   ///< those that reach themselves
-};
+using ReachedLists = Reached;
 
 /// Follows references from some saved lists on, with those lists among the reached. Linear in the
 /// words of all that is reached, and without recursion.

@@ -47,7 +47,7 @@ class CCaseDescription : public NamedEntity {
   explicit CCaseDescription(CString const& name) : NamedEntity(0, name) {}
 
   CString const& Description() const { return m_description.Text(); }
-  void SetDescription(CString const& text) { m_description.SetDescription(text); }
+  void SetDescription(CString const& text) { m_description = CCombCaseDesc(text); }
 
   friend bool operator==(CCaseDescription const& a, CCaseDescription const& b) {
     return Same(a, b);
@@ -75,7 +75,7 @@ class CAnalysisCase : public NamedEntity {
 
   /// What the case is of: load cases with factors ("L1"), or a mode ("M1").
   CString const& Description() const { return m_description.Text(); }
-  void SetDescription(CString const& text) { m_description.SetDescription(text); }
+  void SetDescription(CString const& text) { m_description = Data::CCaseDesc(text); }
   /// Number of the task that the case belongs to, 0 for none.
   int Task() const { return m_task; }
   void SetTask(int task) { m_task = task; }

@@ -17,6 +17,8 @@ void CZdSpecTask::SetRelDisp(int index, CRelDisp const& displacement) {
   m_relDisps.at(static_cast<std::size_t>(index)) = displacement;
 }
 
-void CEnvelopeTask::SetDesc(CString const& text, CZelData const*) { m_desc.SetDescription(text); }
+void CEnvelopeTask::SetDesc(CString const& text, CZelData const*) {
+  m_desc = Data::CCombCaseDesc(text);
+}
 
 }  // namespace Tarvex

@@ -37,7 +37,7 @@ class TARVEX_STORE_EXPORT CZssTask : public Zel::TaskOf<CZssTask> {
   /// The loads whose axial forces act on the deflected shape: an analysis case ("A3"), a
   /// combination ("C2"), or load cases with factors.
   CString const& PDelta() const { return m_pDelta.Text(); }
-  void SetPDelta(CString const& text) { m_pDelta.SetDescription(text); }
+  void SetPDelta(CString const& text) { m_pDelta = Data::CCombCaseDesc(text); }
   /// The number when PDelta is one analysis case, minus the number when it is one combination, 0
   /// for any other text.
   int PDeltaCase() const;
@@ -49,14 +49,14 @@ class TARVEX_STORE_EXPORT CZssTask : public Zel::TaskOf<CZssTask> {
   void SetPDeltaEffects(bool on) { m_pDeltaEffects = on; }
   /// Load cases that prestress the structure.
   CString const& Prestress() const { return m_prestress.Text(); }
-  void SetPrestress(CString const& text) { m_prestress.SetDescription(text); }
+  void SetPrestress(CString const& text) { m_prestress = Data::CCaseDesc(text); }
 
   /// Whether loads count as masses too.
   bool AdditionalMass() const { return m_additionalMass; }
   void SetAdditionalMass(bool on) { m_additionalMass = on; }
   /// The loads that count as masses, in which direction and by which factor.
   CString const& MassCase() const { return m_massCase.Text(); }
-  void SetMassCase(CString const& text) { m_massCase.SetDescription(text); }
+  void SetMassCase(CString const& text) { m_massCase = Data::CCaseDesc(text); }
   Direction MassDirection() const { return m_massDirection; }
   void SetMassDirection(Direction direction) { m_massDirection = direction; }
   double MassScale() const { return m_massScale; }
@@ -134,7 +134,7 @@ class TARVEX_STORE_EXPORT CZdSpecTask : public Zel::TaskOf<CZdSpecTask> {
   void SetTask(int task) { m_task = task; }
   /// Load cases that act beside the earthquake.
   CString const& Load() const { return m_load.Text(); }
-  void SetLoad(CString const& text) { m_load.SetDescription(text); }
+  void SetLoad(CString const& text) { m_load = Data::CCaseDesc(text); }
   /// Number of the action that its cases belong to.
   int Source() const { return m_source; }
   void SetSource(int source) { m_source = source; }

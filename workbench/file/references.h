@@ -25,7 +25,8 @@ struct ReferenceSite {
 /// in ascending number, empty references (0) included. The views of a site are good for the time of
 /// the program. Of a list, saved or held by a record, the numbers that stand alone are references,
 /// so are nodes behind co-ordinate words and saved lists behind "#"; the index is the place among
-/// the words. Ranges may have holes, and are none.
+/// the words. Ranges may have holes, and are none. Of a description the cases that it names are
+/// references; the index counts them.
 void ForEachReference(CZelData const& model,
                       std::function<void(ReferenceSite const&)> const& visit);
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <ranges>
 
+#include "store/cases/case_resolution.h"
 #include "store/model/registry.h"
 #include "store/model/saved_lists.h"
 #include "workbench/file/references.h"
@@ -101,12 +102,44 @@ void CheckLists(CZelData const& model, Findings& findings) {
     findings.push_back({"list-reaches-itself", "List", n, "text", -1, std::nullopt, ""});
 }
 
+void CheckDescription(std::string_view table, int number, std::string_view field,
+                      Data::CaseText const& description, Findings& findings) {
+  Data::CaseFault fault;
+  if (!Data::ReadCases(description.Text(), &fault))
+    findings.push_back({"description-not-readable", std::string(table), number, std::string(field),
+                        -1, fault.position, ""});
+  int index = 0;
+  for (int at = description.Text().Find(Data::kDeletedCase); at >= 0;
+       at = description.Text().Find(Data::kDeletedCase, at + 1))
+    findings.push_back({"deleted-case", std::string(table), number, std::string(field), index++,
+                        std::nullopt, ""});
+}
+
+void CheckDescriptions(CZelData const& model, Findings& findings) {
+  ForEachTable([&](auto const& row) {
+    using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+    ForEachRecord((model.*row.all)(), [&](int n, Record const& record) {
+      RecordClasses<Record>::Take(record, [&]<class Class>(Class const& object) {
+        ForEachField<Class>([&](auto const& field) {
+          using Value = typename std::remove_cvref_t<decltype(field)>::Value;
+          if constexpr (std::derived_from<Value, Data::CaseText>)
+            CheckDescription(row.stem, n, field.name, object.*field.member, findings);
+        });
+      });
+    });
+  });
+  for (int const n : Data::CombinationsThatReachThemselves(model))
+    findings.push_back(
+        {"combination-reaches-itself", "CombinationCase", n, "description", -1, std::nullopt, ""});
+}
+
 }  // namespace
 
 std::vector<Finding> FindFaults(CZelData const& model) {
   Findings findings;
   AddDanglingReferences(model, findings);
   CheckLists(model, findings);
+  CheckDescriptions(model, findings);
   CheckTopologies(model, findings);
   CheckAllNumbers(model, findings);
   std::stable_sort(findings.begin(), findings.end(),

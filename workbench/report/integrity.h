@@ -28,6 +28,10 @@ struct Finding {
 ///   wrong-topology-count  a topology without as many nodes as its shape has, 3 at least in a panel
 ///   dimension-not-finite  a number that is not finite
 ///   list-reaches-itself   a saved list that leads back to itself, and so selects nothing
+///   description-not-readable    a text that is no description of cases; the value is the place of
+///                               the fault in it, from 0
+///   deleted-case                a case that was deleted from a description; the index counts them
+///   combination-reaches-itself  a combination that leads back to itself, and so has no factors
 /// A reference from list to list by number is among the dangling references.
 std::vector<Finding> FindFaults(CZelData const& model);
 

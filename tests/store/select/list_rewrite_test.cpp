@@ -55,6 +55,11 @@ CString Removed(CString const& text, int number, SelType kind = SelElement) {
   return WriteListTokens(tokens);
 }
 
+TEST(ListRewrite, LetsTheHighestNotFallUnderAWordThatLostItsNumber) {
+  EXPECT_EQ(Removed(L"N N7 *", 7, SelNode), L"N or *");
+  EXPECT_EQ(Removed(L"PB E7 *", 7), L"PB or *");
+}
+
 TEST(ListRewrite, TakesNumbersOutOfPlainLists) {
   EXPECT_EQ(Removed(L"7 8 9", 8), L"7 9");
   EXPECT_EQ(Removed(L"8 7 8", 8), L"7");

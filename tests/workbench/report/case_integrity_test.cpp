@@ -173,6 +173,38 @@ TEST(FindFaults, FindsANumberThatIsNotFiniteInTasks) {
                                    "modalParameters.shift", -1, std::nullopt, ""}}));
 }
 
+TEST(FindFaults, FindsDescriptionsThatCannotBeReadAndDeletedCases) {
+  auto model = Sound();
+  model.SetAnalysisCase(7, Zel::CAnalysisCase(L"", L"L1 L1", 1));
+  Data::CCombinationCase combination;
+  combination.SetDescription(Data::CCombCaseDesc(L"C1 + A<deleted case> or C<deleted case>"));
+  model.SetCombinationCase(8, combination);
+  PutTask<CZssTask>(model, [](auto& t) { t.SetPDelta(L"C1 or"); });
+  EXPECT_EQ(FindFaults(model),
+            (std::vector<Finding>{
+                {"deleted-case", "CombinationCase", 8, "description", 0, std::nullopt, ""},
+                {"deleted-case", "CombinationCase", 8, "description", 1, std::nullopt, ""},
+                {"description-not-readable", "AnalysisTask", 7, "pDelta", -1, 5, ""},
+                {"description-not-readable", "AnalysisCase", 7, "description", -1, 3, ""}}));
+}
+
+TEST(FindFaults, FindsCombinationsThatReachThemselves) {
+  auto model = Sound();
+  auto const set = [&](int n, wchar_t const* text) {
+    Data::CCombinationCase combination;
+    combination.SetDescription(Data::CCombCaseDesc(CString(text)));
+    model.SetCombinationCase(n, combination);
+  };
+  set(2, L"C3 + A1");
+  set(3, L"0.5C2");
+  set(4, L"C2");  // leads to them, but not back
+  EXPECT_EQ(FindFaults(model),
+            (std::vector<Finding>{{"combination-reaches-itself", "CombinationCase", 2,
+                                   "description", -1, std::nullopt, ""},
+                                  {"combination-reaches-itself", "CombinationCase", 3,
+                                   "description", -1, std::nullopt, ""}}));
+}
+
 TEST(FindFieldChanges, TellsTheFieldsOfATaskAndItsClassWhereThatChanged) {
   auto const before = Sound();
   auto after = before;
