@@ -2,9 +2,9 @@
 // the language.
 #pragma once
 
-#include "store/cases/case_expression.h"
 #include "store/record/field.h"
 #include "store/record/kept_value.h"
+#include "store/select/case_expression.h"
 #include "store/select/intervals.h"
 
 namespace Tarvex {

@@ -80,7 +80,8 @@ class Writer {
   void Put(std::span<int const> words) {
     // A word that lost its number must not take the next one.
     bool const takes = IsNumberToken(words.front()) || words.front() == kHighest;
-    if (takes && !m_words.empty() && (IsBehind(kSavedList) || IsPrefixWord(m_words.back()))) m_words.push_back(kOr);
+    if (takes && !m_words.empty() && (IsBehind(kSavedList) || IsPrefixWord(m_words.back())))
+      m_words.push_back(kOr);
     m_words.insert(m_words.end(), words.begin(), words.end());
   }
 

@@ -2,7 +2,7 @@
 // evaluated the same way twice.
 #include <cstdint>
 
-#include "store/cases/case_permutations.h"
+#include "store/select/case_permutations.h"
 #include "tests/fuzz/require.h"
 
 namespace Tarvex::Data {

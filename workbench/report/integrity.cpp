@@ -5,7 +5,7 @@
 #include <cmath>
 #include <ranges>
 
-#include "store/cases/case_resolution.h"
+#include "store/model/case_resolution.h"
 #include "store/model/registry.h"
 #include "store/model/saved_lists.h"
 #include "workbench/file/references.h"

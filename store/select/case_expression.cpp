@@ -1,6 +1,6 @@
 #include <charconv>
 
-#include "store/cases/case_expression.h"
+#include "store/select/case_expression.h"
 #include "store/select/case_tokens.h"
 
 namespace Tarvex::Data {

@@ -1,4 +1,4 @@
-#include "store/cases/case_permutations.h"
+#include "store/select/case_permutations.h"
 
 #include <algorithm>
 
@@ -159,6 +159,13 @@ std::map<SCaseRef, double> CaseFactors(CountedCases const& cases, int part, int 
                                        CaseMeaning const& meaning) {
   if (index < 0) return {};
   return Factors(meaning).Of(cases, part, index);
+}
+
+double FactorOfCase(CountedCases const& cases, int part, int index, CaseMeaning const& meaning,
+                    SCaseRef const& ref) {
+  auto const factors = CaseFactors(cases, part, index, meaning);
+  auto const found = factors.find(SCaseRef(ref.type, ref.num));
+  return found == factors.end() ? 0 : found->second;
 }
 
 }  // namespace Tarvex::Data

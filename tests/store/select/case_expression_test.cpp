@@ -1,10 +1,10 @@
-#include "store/cases/case_expression.h"
+#include "store/select/case_expression.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-namespace Tarvex::Data::CaseParserTest {
+namespace Tarvex::Data::CaseExpressionTest {
 namespace {
 
 using Kind = CasePart::Kind;
@@ -182,4 +182,4 @@ TEST(ReadCases, TakesAHundredThousandTermsAndParentheses) {
 }
 
 }  // namespace
-}  // namespace Tarvex::Data::CaseParserTest
+}  // namespace Tarvex::Data::CaseExpressionTest

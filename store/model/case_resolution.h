@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <set>
 
-#include "store/cases/case_permutations.h"
 #include "store/record/kept_value.h"
+#include "store/select/case_permutations.h"
 
 namespace Tarvex {
 

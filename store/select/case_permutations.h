@@ -9,7 +9,7 @@
 #include <limits>
 #include <map>
 
-#include "store/cases/case_expression.h"
+#include "store/select/case_expression.h"
 
 namespace Tarvex::Data {
 
@@ -58,5 +58,9 @@ TARVEX_STORE_EXPORT CountedCases CountCases(CaseExpression tree, CaseMeaning con
 /// @param index from 0; one that there is not gives no factors
 TARVEX_STORE_EXPORT std::map<SCaseRef, double> CaseFactors(CountedCases const& cases, int part,
                                                            int index, CaseMeaning const& meaning);
+
+/// The factor of one case in one alternative, 0 for a case that is not in it.
+TARVEX_STORE_EXPORT double FactorOfCase(CountedCases const& cases, int part, int index,
+                                        CaseMeaning const& meaning, SCaseRef const& ref);
 
 }  // namespace Tarvex::Data

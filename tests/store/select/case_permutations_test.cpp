@@ -1,5 +1,5 @@
 // Alternatives of descriptions, against a plain evaluator that lists them all.
-#include "store/cases/case_permutations.h"
+#include "store/select/case_permutations.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "store/cases/case_resolution.h"
+#include "store/model/case_resolution.h"
 
 #include <algorithm>
 
@@ -104,6 +104,25 @@ CaseResolution::CaseResolution(CZelData const& of, CString const& text)
 
 bool CaseResolution::IsOf(CZelData const& of) const {
   return model == &ModelAccess::Core(of) && revisions == RevisionsOf(of);
+}
+
+int CCombCaseDesc::NumPermutation(CZelData const& model) const {
+  auto kept = m_resolution.Get();
+  if (kept == nullptr || !kept->IsOf(model)) {
+    m_resolution.Set(CaseResolution(model, Text()));
+    kept = m_resolution.Get();
+  }
+  return kept->cases.Total();
+}
+
+double CCombCaseDesc::CaseFactor(int permutation, SCaseRef const& ref) const {
+  if (auto const kept = m_resolution.Get())
+    return FactorOfCase(kept->cases, kept->cases.tree.whole, permutation - 1, kept->meaning, ref);
+  auto tree = ReadCases(Text());
+  if (!tree) return 0;
+  CasesAsWritten const meaning;
+  auto const cases = CountCases(std::move(*tree), meaning);
+  return FactorOfCase(cases, cases.tree.whole, permutation - 1, meaning, ref);
 }
 
 }  // namespace Tarvex::Data
