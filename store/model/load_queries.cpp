@@ -2,15 +2,25 @@
 
 #include <cmath>
 
+#include "store/model/list_expansion.h"
 #include "store/model/zel_data.h"
 #include "store/record/element.h"
 #include "store/record/face_loads.h"
+#include "store/record/member.h"
 
 namespace Tarvex {
 namespace {
 
 /// Natural co-ordinates that were worked out from a point may miss the edge by this much.
 constexpr double kRounding = 1e-6;
+
+/// Adds the children of a member that exist.
+void AddChildren(CZelData const& model, int member, bool panels, Util::CSet& elements) {
+  if (!model.MemberExist(member)) return;
+  for (auto const& [replica, numbers] : model.Member(member).ChildElements())
+    for (int const n : numbers)
+      if (model.ElemExist(n) || (panels && model.LoadPanelExist(n))) elements.AddTo(n);
+}
 
 }  // namespace
 
@@ -21,6 +31,16 @@ bool LoadQueries::ValidatePointLoadPosition(Data::CFaceLoad const& load, int ele
   auto const& at = load.Position();
   if (plate.IsQuad()) return std::abs(at.x) <= 1 + kRounding && std::abs(at.y) <= 1 + kRounding;
   return at.x >= -kRounding && at.y >= -kRounding && at.x + at.y <= 1 + kRounding;
+}
+
+Util::CSet LoadQueries::GetLoadedElements(Data::CLoadBase const& load, bool panels) const {
+  auto const& list = load.LoadedEntities();
+  Util::CSet elements(SelElement);
+  if (list.TypeOf() == SelElement) return Util::MakeSet(list, m_model, panels);
+  if (list.TypeOf() != SelMember) return elements;
+  for (int const member : Util::MakeSet(list, m_model))
+    AddChildren(m_model, member, panels, elements);
+  return elements;
 }
 
 }  // namespace Tarvex

@@ -4,12 +4,14 @@
 #pragma once
 
 #include "store/export.h"
+#include "store/select/set.h"
 
 namespace Tarvex {
 
 class CZelData;
 namespace Data {
 class CFaceLoad;
+class CLoadBase;
 }  // namespace Data
 
 /// Queries of a model about its loads.
@@ -18,6 +20,9 @@ class TARVEX_STORE_EXPORT LoadQueries {
   /// Whether the position of a point load lies on an element: a triangle has r, s and 1 - r - s, a
   /// quadrilateral 1 - |r| and 1 - |s|, each at least 0 but for rounding.
   bool ValidatePointLoadPosition(Data::CFaceLoad const& load, int element) const;
+  /// The existing elements that a load acts on; of a load on members their child elements, of a
+  /// load on nodes none. @param panels whether load panels count too
+  Util::CSet GetLoadedElements(Data::CLoadBase const& load, bool panels) const;
 
  protected:
   explicit LoadQueries(CZelData const& model) : m_model(model) {}

@@ -8,17 +8,17 @@ namespace {
 
 using Kind = CasePart::Kind;
 
-struct Refused {
+struct RefusedCases {
   CaseFault fault;
 };
 
 /// Takes words from a text, blanks between them passed over.
-class Words {
+class CaseWords {
  public:
-  explicit Words(std::wstring_view text) : m_text(text) {}
+  explicit CaseWords(std::wstring_view text) : m_text(text) {}
 
   [[noreturn]] void Refuse(wchar_t const* reason) const {
-    throw Refused{{static_cast<int>(m_at), reason}};
+    throw RefusedCases{{static_cast<int>(m_at), reason}};
   }
   void PassBlanks() {
     while (m_at < m_text.size() && (m_text[m_at] == L' ' || m_text[m_at] == L'\t')) ++m_at;
@@ -55,12 +55,12 @@ class Words {
   /// Takes the digits of a case number, which stand directly behind the letter.
   int TakeCaseNumber() {
     long long number = 0;
-    auto const first = m_at;
-    for (; m_at < m_text.size() && IsDigit(m_text[m_at]); ++m_at)
-      if (number <= kHighestNumber) number = number * 10 + (m_text[m_at] - L'0');
-    if (m_at == first) Refuse(L"expected a case number");
-    m_at = number >= 1 && number <= kHighestNumber ? m_at : first;
-    if (m_at == first) Refuse(L"a case number is from 1 to 100000000");
+    auto end = m_at;
+    for (; end < m_text.size() && IsDigit(m_text[end]); ++end)
+      if (number <= kHighestNumber) number = number * 10 + (m_text[end] - L'0');
+    if (end == m_at) Refuse(L"expected a case number");
+    if (number < 1 || number > kHighestNumber) Refuse(L"a case number is from 1 to 100000000");
+    m_at = end;
     return static_cast<int>(number);
   }
   /// The letter of a case that comes next, taken; 0 for any other character.
@@ -89,9 +89,9 @@ class Words {
 
 /// Reads one description. Open parentheses stand on a stack of its own, so that their depth costs
 /// no recursion.
-class Reader {
+class CaseReader {
  public:
-  explicit Reader(std::wstring_view text) : m_words(text) {}
+  explicit CaseReader(std::wstring_view text) : m_words(text) {}
 
   CaseExpression Read() {
     if (m_words.IsAtEnd() || TakeNone()) {
@@ -261,7 +261,7 @@ class Reader {
     Open(Opened::PDelta, {1});
   }
 
-  Words m_words;
+  CaseWords m_words;
   std::vector<Frame> m_frames;
   CaseExpression m_expression;
 };
@@ -270,8 +270,8 @@ class Reader {
 
 std::optional<CaseExpression> ReadCases(CString const& text, CaseFault* fault) {
   try {
-    return Reader(text).Read();
-  } catch (Refused const& refused) {
+    return CaseReader(text).Read();
+  } catch (RefusedCases const& refused) {
     if (fault != nullptr) *fault = refused.fault;
     return std::nullopt;
   }

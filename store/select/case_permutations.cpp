@@ -7,12 +7,12 @@ namespace {
 
 using Kind = CasePart::Kind;
 
-int Product(int a, int b) {
+int CappedProduct(int a, int b) {
   auto const product = static_cast<long long>(a) * b;
   return static_cast<int>(std::min<long long>(product, kMostPermutations));
 }
 
-int Plus(int a, int b) {
+int CappedSum(int a, int b) {
   auto const sum = static_cast<long long>(a) + b;
   return static_cast<int>(std::min<long long>(sum, kMostPermutations));
 }
@@ -30,7 +30,7 @@ int CountRange(CasePart const& range, CaseMeaning const& meaning) {
   if (meaning.IsAsWritten()) return range.last - range.first.num + 1;
   int count = 0;
   ForEachOf(range, meaning, [&](SCaseRef const& ref) {
-    count = Plus(count, meaning.Count(ref));
+    count = CappedSum(count, meaning.Count(ref));
     return count < kMostPermutations;
   });
   return count;
@@ -49,21 +49,21 @@ int CountPart(CountedCases const& cases, CasePart const& part, CaseMeaning const
     case Kind::Range:
       return CountRange(part, meaning);
     case Kind::Either:
-      return all(0, Plus);
+      return all(0, CappedSum);
     case Kind::Scaled:
-      return Product(static_cast<int>(part.factors.size()), all(1, Product));
+      return CappedProduct(static_cast<int>(part.factors.size()), all(1, CappedProduct));
     case Kind::Nothing:
     case Kind::Sum:
     case Kind::NonLinear:
       break;
   }
-  return all(1, Product);
+  return all(1, CappedProduct);
 }
 
 /// Works one alternative out, by a stack of its own.
-class Factors {
+class FactorWalk {
  public:
-  explicit Factors(CaseMeaning const& meaning) : m_meaning(meaning) {}
+  explicit FactorWalk(CaseMeaning const& meaning) : m_meaning(meaning) {}
 
   std::map<SCaseRef, double> Of(CountedCases const& cases, int part, int index) {
     Push(cases, part, index, 1);
@@ -158,7 +158,7 @@ CountedCases CountCases(CaseExpression tree, CaseMeaning const& meaning) {
 std::map<SCaseRef, double> CaseFactors(CountedCases const& cases, int part, int index,
                                        CaseMeaning const& meaning) {
   if (index < 0) return {};
-  return Factors(meaning).Of(cases, part, index);
+  return FactorWalk(meaning).Of(cases, part, index);
 }
 
 double FactorOfCase(CountedCases const& cases, int part, int index, CaseMeaning const& meaning,

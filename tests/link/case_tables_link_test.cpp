@@ -2,12 +2,14 @@
 #include <gtest/gtest.h>
 
 #include "store/model/analysis_case_table.h"
+#include "store/model/case_resolution.h"
 #include "store/model/zel_data.h"
 #include "store/record/case_refs.h"
 #include "store/record/load_case_title.h"
 #include "store/record/node.h"
 #include "store/record/stages.h"
 #include "store/record/task_slot.h"
+#include "store/select/reached.h"
 #include "store/text/number_text.h"
 #include "tests/link/linked.h"
 
@@ -46,7 +48,7 @@ TEST(CaseTablesLink, Stages) {
                         &StageQueries::NodeIsActive, &StageQueries::NodeTotalRestraint, &NamesStage,
                         &CZelData::StructType, &CZelData::GlobalRestraint,
                         &Data::CSpec::GlobalRestraint, &CZelData::RaftSpec, &CZelData::SetRaftSpec,
-                        &LoadQueries::ValidatePointLoadPosition,
+                        &LoadQueries::ValidatePointLoadPosition, &LoadQueries::GetLoadedElements,
                         &Data::CNode::TotalNodalRestraint));
 }
 
@@ -85,6 +87,20 @@ TEST(CaseTablesLink, Cases) {
   CZelData model;
   model.SetAnalysisCase(2, Zel::CAnalysisCase(L"a", L"L1", 0));
   EXPECT_EQ(model.AnalysisCase().size(), 1u);
+}
+
+TEST(CaseTablesLink, Descriptions) {
+  using Data::CCaseDesc;
+  using Data::CCombCaseDesc;
+  EXPECT_TRUE(
+      AreLinked(&Data::CaseText::SetDescription, &CCaseDesc::CaseFactor, &CCaseDesc::LoadCases,
+                &CCombCaseDesc::SetDescription, &CCombCaseDesc::NumPermutation,
+                &CCombCaseDesc::CaseFactor, &Data::ReadCases, &Data::CountCases, &Data::CaseFactors,
+                &Data::FactorOfCase, &Data::CombinationsThatReachThemselves, &FollowReferences));
+  CCombCaseDesc description(L"C1");
+  CCombCaseDesc const copy(description);
+  description = copy;
+  EXPECT_EQ(description.NumPermutation(CZelData()), 1);
 }
 
 TEST(NumberTextLink, Functions) {

@@ -6,6 +6,8 @@
 
 #include "store/model/zel_data.h"
 #include "store/record/face_loads.h"
+#include "store/record/member.h"
+#include "store/record/node_load.h"
 #include "tests/support/builders.h"
 
 namespace Tarvex::LoadQueriesTest {
@@ -52,6 +54,41 @@ TEST(ValidatePointLoadPosition, IsFalseForWhatIsNoPlate) {
   EXPECT_FALSE(IsOn(model, 2, 0, 0));
   EXPECT_FALSE(IsOn(model, 3, 0, 0));
   EXPECT_FALSE(IsOn(model, 9, 0, 0));
+}
+
+std::vector<int> Loaded(CZelData const& model, Data::CLoadBase const& load, bool panels) {
+  std::vector<int> numbers;
+  for (int const n : model.GetLoadedElements(load, panels)) numbers.push_back(n);
+  return numbers;
+}
+
+TEST(GetLoadedElements, AreTheExistingOnesOfTheListAndPanelsWhenAskedFor) {
+  CZelData model;
+  Testing::Grid(model, 2, 1);
+  model.SetLoadPanel(5, Testing::Panel({1, 2, 3}));
+  Data::CFaceLoad load;
+  load.SetLoadedEntities({SelElement, L"2 to 9"});
+  EXPECT_EQ(Loaded(model, load, false), std::vector{2});
+  EXPECT_EQ(Loaded(model, load, true), (std::vector{2, 5}));
+}
+
+TEST(GetLoadedElements, OfMembersAreTheirChildren) {
+  CZelData model;
+  Testing::Grid(model, 2, 1);
+  model.SetLoadPanel(5, Testing::Panel({1, 2, 3}));
+  Data::CMember member(MembType::Slab, 1, 0);
+  member.AddChildElement(2, 0);
+  member.AddChildElement(5, 0);
+  member.AddChildElement(1, 1);
+  member.AddChildElement(77, 1);  // is not there
+  model.SetMember(3, member);
+  Data::CFaceLoad load;
+  load.SetLoadedEntities({SelMember, L"all"});
+  EXPECT_EQ(Loaded(model, load, false), (std::vector{1, 2}));
+  EXPECT_EQ(Loaded(model, load, true), (std::vector{1, 2, 5}));
+  Data::CNodeLoad onNodes;
+  onNodes.SetLoadedEntities({SelNode, L"1"});
+  EXPECT_TRUE(Loaded(model, onNodes, true).empty());
 }
 
 }  // namespace
