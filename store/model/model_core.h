@@ -150,7 +150,7 @@ struct ModelState {
 
   /// The nodes that restraints of lists hold, and the revisions that they were worked out from.
   struct Held {
-    std::array<std::uint64_t, 9> marks{};
+    std::array<std::uint64_t, 5> marks{};
     std::vector<int> nodes;
   };
   std::shared_ptr<Held const> held;

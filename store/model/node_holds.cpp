@@ -1,5 +1,6 @@
 #include "store/model/node_holds.h"
 
+#include <bit>
 #include <map>
 
 #include "store/model/list_expansion.h"
@@ -12,11 +13,12 @@ namespace {
 using Data::NodeHold;
 using Data::NodeHoldAccess;
 
-/// Revisions of all that lists of nodes and of stages read.
+/// Revisions of all that restraints and their lists of nodes and stages read; elements and what
+/// they are made of are no part of it.
 auto MarksOf(ModelState const& state) {
-  return std::array{state.genRest.Revision(), state.list.Revision(),    state.analStage.Revision(),
-                    state.node.Revision(),    state.elem.Revision(),    state.panel.Revision(),
-                    state.member.Revision(),  state.section.Revision(), state.prop2D.Revision()};
+  return std::array{state.genRest.Revision(), state.list.Revision(), state.analStage.Revision(),
+                    state.node.Revision(),
+                    std::bit_cast<std::uint64_t>(state.spec.GenTol(TolType::Coincidence))};
 }
 
 /// The stages that a restraint acts in.
