@@ -26,6 +26,8 @@ endif()
 find_program(TARVEX_CCACHE ccache)
 if(TARVEX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${TARVEX_CCACHE}")
+  # Without it ccache passes over what is compiled with a precompiled header of GCC.
+  target_compile_options(tarvex_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 find_program(TARVEX_MOLD mold)
 if(TARVEX_MOLD)
