@@ -53,6 +53,8 @@ ROOF = BASEMENTS + len(TOWER_HEIGHTS)
 # Loads, N, m and K; values of EN 1991-1-1 and -1-3 where the README says so.
 FINISHES, PARTITIONS, OFFICES, ROOF_ACCESS, SNOW = 1500, 2000, 3000, 400, 640
 WIND, SUCTION, WARMING = 800, 400, 15
+ARCHIVE, IMPACT, IMPACT_HEIGHT = 7500, 50000, 0.5
+HIT_COLUMN = 7                      # element of the south-west column of the tower that stands on the ground
 CHILLER, PLANT, PARAPET = 20000, 2500, 3000
 # Ordinates of the elastic spectrum of EN 1998-1, 3.2.2.2 (type 1, ground B: S 1.2, TB 0.15, TC 0.5, TD 2 s).
 GROUND_ACCELERATION = 0.25 * 9.80665                           # m/s2
@@ -62,6 +64,7 @@ GRADE = {"type": 2, "grade": 1}     # concrete, number 1 of its table
 
 # Numbers of load cases, tasks and cases; the analysis case of a load case has its number.
 DEAD, FINISHED, IMPOSED, IMPOSED_ROOF, WIND_X, WIND_Y, SNOWED, WARMED = range(1, 9)
+ODD_FLOORS, EVEN_FLOORS, ARCHIVES, WIND_BACK_X, WIND_BACK_Y, HIT = range(13, 19)
 STATIC, MODAL, RESPONSE, P_DELTA = 1, 2, 3, 4
 RESPONSE_X, RESPONSE_Y = 11, 12
 
@@ -502,11 +505,16 @@ def corners(x, y):
 
 def load_cases():
     """What each load case is: type of action, source and category."""
-    titles = [("Self weight", 11, {}), ("Finishes and partitions", 11, {}), ("Offices", 31, {"category": 2}),
-              ("Access to the roof", 32, {"category": 8}), ("Wind +x", 33, {}), ("Wind +y", 33, {}), ("Snow", 34, {}),
-              ("Summer", 36, {})]
+    offices, with_offices = {"category": 2}, {"source": IMPOSED}
+    titles = [(DEAD, "Self weight", 11, {}), (FINISHED, "Finishes and partitions", 19, {}),
+              (IMPOSED, "Offices", 31, offices), (IMPOSED_ROOF, "Access to the roof", 32, with_offices | {"category": 8}),
+              (WIND_X, "Wind +x", 33, {}), (WIND_Y, "Wind +y", 33, {}), (SNOWED, "Snow", 34, {}),
+              (WARMED, "Summer", 36, {}), (ODD_FLOORS, "Offices, odd floors", 31, offices),
+              (EVEN_FLOORS, "Offices, even floors", 31, offices),
+              (ARCHIVES, "Archive", 31, with_offices | {"category": 5}), (WIND_BACK_X, "Wind -x", 33, {}),
+              (WIND_BACK_Y, "Wind -y", 33, {}), (HIT, "Impact of a car", 41, {})]
     return [{"n": n, "name": name, "type": kind} | ({"source": n} if n > 1 else {}) | more
-            for n, (name, kind, more) in enumerate(titles, 1)]
+            for n, name, kind, more in titles]
 
 
 def loads():
@@ -519,13 +527,22 @@ def loads():
              face_load(WIND_X, '"West facade"', WIND, direction=1),
              face_load(WIND_X, '"East facade"', SUCTION, direction=1),
              face_load(WIND_Y, '"South facade"', WIND, direction=2),
-             face_load(WIND_Y, '"North facade"', SUCTION, direction=2)]
+             face_load(WIND_Y, '"North facade"', SUCTION, direction=2),
+             face_load(ODD_FLOORS, by("G", *(FLOOR + level for level in range(1, ROOF, 2))), -OFFICES),
+             face_load(EVEN_FLOORS, by("G", *(FLOOR + level for level in range(2, ROOF, 2))), -OFFICES),
+             face_load(ARCHIVES, by("G", FLOOR + 1), -ARCHIVE),
+             face_load(WIND_BACK_X, '"East facade"', -WIND, direction=1),
+             face_load(WIND_BACK_X, '"West facade"', -SUCTION, direction=1),
+             face_load(WIND_BACK_Y, '"North facade"', -WIND, direction=2),
+             face_load(WIND_BACK_Y, '"South facade"', -SUCTION, direction=2)]
     on_roof = {"loadCase": FINISHED, "surface": 1}
     parapet = corners((0, LENGTH), TOWER_Y)
     parapet += parapet[:1]
     return {
         "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'),
-                      "value": [-PARTITIONS, 0]}],
+                      "value": [-PARTITIONS, 0]},
+                     {"loadCase": HIT, "loadedEntities": lists_by(str(HIT_COLUMN)), "type": 1, "direction": 1,
+                      "pos": [IMPACT_HEIGHT, 0], "value": [IMPACT, 0]}],
         "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'),
                              "value": [WARMING, 0]}],
         "FaceLoad": faces,

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "store/geometry/rounding.h"
 #include "store/model/zel_data.h"
 #include "workbench/report/text.h"
 
@@ -17,7 +18,10 @@ constexpr double kRoundingOfSums = 1e-9;
 
 Json VectorJson(Vec3<double> const& v) { return Json::array({v.x, v.y, v.z}); }
 
-std::string VectorText(Vec3<double> const& v) {
+/// Rounded for readers: sums carry the rounding of their terms.
+std::string VectorText(Vec3<double> const& exact) {
+  constexpr int kDigits = 9;
+  auto const v = Round(exact, kDigits);
   return "(" + NumberText(v.x) + ", " + NumberText(v.y) + ", " + NumberText(v.z) + ")";
 }
 

@@ -133,15 +133,21 @@ TEST(SixStorey, NamesNothingThatIsMissing) {
   EXPECT_TRUE(Workbench::FindFaults(Building()).empty());
 }
 
-TEST(SixStorey, HasEightLoadCasesWithTheirActions) {
+TEST(SixStorey, HasLoadCasesWithTheirActions) {
   EXPECT_EQ(Building().LoadCaseTypes(), (std::map<int, CaseType>{{1, CaseType::SelfWeight},
-                                                                 {2, CaseType::SelfWeight},
+                                                                 {2, CaseType::PermanentEquivalent},
                                                                  {3, CaseType::Imposed},
                                                                  {4, CaseType::ImposedRoof},
                                                                  {5, CaseType::Wind},
                                                                  {6, CaseType::Wind},
                                                                  {7, CaseType::Snow},
-                                                                 {8, CaseType::Thermal}}));
+                                                                 {8, CaseType::Thermal},
+                                                                 {13, CaseType::Imposed},
+                                                                 {14, CaseType::Imposed},
+                                                                 {15, CaseType::Imposed},
+                                                                 {16, CaseType::Wind},
+                                                                 {17, CaseType::Wind},
+                                                                 {18, CaseType::Accidental}}));
 }
 
 /// Area of the 2D elements and panels that the face loads of a load case act on.
@@ -184,6 +190,15 @@ TEST(SixStorey, CarriesWhatItsAreasTimesTheirLoadsComeTo) {
   near(5, {(800.0 + 400) * 10 * 19, 0, 0});
   near(6, {0, (800.0 + 400) * 24 * 19, 0});
   near(8, {});
+  // Odd floors: one of 30 x 21 and three of 30 x 14; even ones: one and two.
+  near(13, {0, 0, -3000.0 * (630 + 3 * 420 - 4 * (5 + 3))});
+  near(14, {0, 0, -3000.0 * (630 + 2 * 420 - 3 * (5 + 3))});
+  near(15, {0, 0, -7500.0 * (630 - (5 + 3))});
+  near(16, {-(800.0 + 400) * 10 * 19, 0, 0});
+  near(17, {0, -(800.0 + 400) * 24 * 19, 0});
+  // 0.5 m above the ground at (0, 3.5).
+  near(18, {50000, 0, 0});
+  EXPECT_TRUE(Testing::IsNear(totals.byCase.at(18).moment, {0, 25000, -175000}, 0.01));
 }
 
 TEST(SixStorey, HasCombinationsOfWhatItAnalyses) {
@@ -250,7 +265,7 @@ TEST(SixStorey, HasTheSpectrumOfTheCode) {
 TEST(SixStorey, HasATaskForEachOfItsAnalyses) {
   auto const model = Building();
   EXPECT_TRUE(model.AnalysisTask(1).IsStatic());
-  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 8u);
+  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 14u);
   EXPECT_TRUE(model.AnalysisTask(2).IsEigenDynamic());
   EXPECT_TRUE(model.AnalysisTask(3).IsResponseSpectrum());
   EXPECT_TRUE(model.AnalysisTask(4).IsPDelta());
