@@ -49,7 +49,9 @@ bool CRenumber::Go(bool keepDescriptions) const {
 }
 
 bool CRenumber::GoCases() const {
-  RenumberRun const run{Model(), Before(), m_parts->schemes, m_parts->refOnly,
+  auto& model = Model();
+  auto const before = m_parts->before != nullptr ? m_parts->before : model.Snapshot();
+  RenumberRun const run{model, *before, m_parts->schemes, m_parts->refOnly,
                         m_parts->schemes.HasProperties()};
   return MoveLoads(run);
 }
