@@ -5,7 +5,9 @@
 #include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/renumber.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/tidy.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -13,7 +15,7 @@ namespace {
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
   for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+                             OrientationCommands(), RenumberCommands(), TidyCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
