@@ -26,7 +26,7 @@ struct MovedLoads {
 };
 
 template <class Record>
-bool MoveTable(RenumberRun const& run, MovedLoads<Record> const& table) {
+bool MoveLoadTable(RenumberRun const& run, MovedLoads<Record> const& table) {
   (run.model.*table.clear)(0, 1);
   int next = 0;
   for (auto const& load : (run.before.*table.all)()) {
@@ -106,7 +106,7 @@ constexpr auto kMovedLoads = MakeRows(
 
 bool MoveLoads(RenumberRun const& run) {
   bool any = false;
-  kMovedLoads.ForEach([&](auto const& table) { any = MoveTable(run, table) || any; });
+  kMovedLoads.ForEach([&](auto const& table) { any = MoveLoadTable(run, table) || any; });
   return any;
 }
 
