@@ -44,7 +44,7 @@ constexpr std::array kDeleteOptions{
            "delete the elements, panels and members that need a record, too"}};
 
 /// The parts of a text between commas.
-std::vector<std::string> Split(std::string const& text) {
+std::vector<std::string> SplitByCommas(std::string const& text) {
   std::vector<std::string> parts;
   for (std::size_t at = 0; at <= text.size();) {
     auto const end = std::min(text.find(',', at), text.size());
@@ -58,13 +58,13 @@ std::vector<std::string> Split(std::string const& text) {
 template <class T>
 std::vector<T> NumbersOf(std::string const& option, std::string const& text, std::size_t count) {
   std::vector<T> numbers;
-  for (auto const& part : Split(text)) {
+  for (auto const& part : SplitByCommas(text)) {
     T number{};
     auto const* const end = part.data() + part.size();
     auto const [rest, fault] = std::from_chars(part.data(), end, number);
     if (fault == std::errc() && rest == end) numbers.push_back(number);
   }
-  if (numbers.size() != count || Split(text).size() != count)
+  if (numbers.size() != count || SplitByCommas(text).size() != count)
     throw UsageError(option + ": '" + text + "' is not " + std::to_string(count) +
                      " numbers, split by commas");
   return numbers;
@@ -173,7 +173,7 @@ void CheckForm(Arguments const& arguments) {
 
 void Renumber(CZelData& model, Arguments const& arguments, CommandResult& result) {
   CheckForm(arguments);
-  auto const stems = Split(arguments.Text("--table"));
+  auto const stems = SplitByCommas(arguments.Text("--table"));
   if (stems.size() > 1 && !arguments.Flag("--compress"))
     throw UsageError("--table: several tables go with --compress alone");
   SchemeMaps schemes;

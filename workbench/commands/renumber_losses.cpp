@@ -55,10 +55,28 @@ std::string RecordText(std::string_view table, int number) {
   return std::string(table) + (number == 0 ? "" : " " + std::to_string(number));
 }
 
-/// Tells which records of positional tables a run left, by running it once more with each marked.
+/// Tells which records of positional tables a run left: where some went, by running it once more
+/// with each of them marked.
 class Survivors {
  public:
   explicit Survivors(FinishedRun const& run) {
+    bool dropped = false;
+    Registry::kPositionalTables.ForEach([&](auto const& row) {
+      dropped = dropped || (run.before.*row.highest)() != (run.after.*row.highest)();
+    });
+    if (dropped) RunAgain(run);
+  }
+
+  /// The number of a record behind the run, 0 for one that went.
+  int NumberOf(std::string_view stem, int old) const {
+    auto const table = m_numbers.find(std::string(stem));
+    if (table == m_numbers.end()) return old;
+    auto const found = table->second.find(old);
+    return found == table->second.end() ? 0 : found->second;
+  }
+
+ private:
+  void RunAgain(FinishedRun const& run) {
     CZelData marked(run.before);
     Registry::kPositionalTables.ForEach([&](auto const& row) {
       auto const records = (run.before.*row.all)();
@@ -77,15 +95,6 @@ class Survivors {
     });
   }
 
-  /// The number of a record behind the run, 0 for one that went.
-  int NumberOf(std::string_view stem, int old) const {
-    auto const table = m_numbers.find(std::string(stem));
-    if (table == m_numbers.end()) return old;
-    auto const found = table->second.find(old);
-    return found == table->second.end() ? 0 : found->second;
-  }
-
- private:
   std::map<std::string, std::map<int, int>> m_numbers;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 #include "store/model/registry.h"
 #include "workbench/commands/errors.h"
@@ -99,14 +100,15 @@ Id ModuleOf(std::string const& stem) {
 }
 
 std::vector<int> NumbersInUse(CZelData const& model, Id module) {
-  CZelData copy(model);  // costs nothing, and a renumbering wants a model that it may change
-  CRenumber renumber(&copy);
-  std::vector<int> numbers;
-  int const highest = model.HighestRecord(module);
-  renumber.Index(module);
-  for (int n = 1; n <= highest; ++n)
-    if (renumber.MapItem(module, n) != 0) numbers.push_back(n);
-  return numbers;
+  std::set<int> numbers;
+  if (module == CModule::LoadCaseTitle)
+    for (auto const& [n, type] : model.LoadCaseTypes()) numbers.insert(n);
+  ForEachTable([&](auto const& row) {
+    if (row.module != module) return;
+    ForEachRecord((model.*row.all)(),
+                  [&](int n, auto const&) { numbers.insert(numbers.end(), n); });
+  });
+  return {numbers.begin(), numbers.end()};
 }
 
 void RunRenumbering(CZelData& model, SchemeMaps const& schemes, bool keepDescriptions,

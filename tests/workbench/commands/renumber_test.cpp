@@ -273,7 +273,9 @@ TEST_F(DeleteCommand, DeletesAnUnusedPropertyAndNamesListsThatLoseIt) {
 }
 
 TEST_F(DeleteCommand, DeletesCasesOfEachKind) {
-  auto const json = RunOn({"delete", "--kind", "case", "--list", "L2 C3"}, 0).Json();
+  // a load on a solid keeps the deleted load case, so there is something to look at
+  auto const json = RunOn({"delete", "--kind", "case", "--list", "L2 C3"}, 1).Json();
+  EXPECT_EQ(Undone(json.at("data")), Lines{"BodyFaceLoad 1: loadCase still says LoadCaseTitle 2"});
   EXPECT_EQ(Numbers("LoadCaseTitle"), std::vector<int>{5});
   EXPECT_TRUE(Table("CombinationCase").empty());
   EXPECT_EQ(Record("AnalysisCase", 2).at("description"), "L<deleted case> + L5");
