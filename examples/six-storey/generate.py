@@ -9,6 +9,7 @@ point shares its node. Each element is the mesh of one member.
 """
 
 import json
+import re
 import sys
 from collections import namedtuple
 from itertools import pairwise
@@ -57,6 +58,7 @@ CHILLER, PLANT, PARAPET = 20000, 2500, 3000
 GROUND_ACCELERATION = 0.25 * 9.80665                           # m/s2
 SOIL_FACTOR, T_B, T_C, T_D = 1.2, 0.15, 0.5, 2
 LONG_TERM = 3                       # the modulus is divided by this for lasting loads (creep)
+GRADE = {"type": 2, "grade": 1}     # concrete, number 1 of its table
 
 # Numbers of load cases, tasks and cases; the analysis case of a load case has its number.
 DEAD, FINISHED, IMPOSED, IMPOSED_ROOF, WIND_X, WIND_Y, SNOWED, WARMED = range(1, 9)
@@ -444,7 +446,7 @@ def storeys():
 
 
 def rectangle_section(n, name, depth, width):
-    component = {"description": f"rectangle {depth} {width}", "materialAnalysis": 1}
+    component = {"description": f"rectangle {depth} {width}", "materialAnalysis": 1, "materialDesign": GRADE}
     return {"n": n, "name": name, "components": [component]}
 
 
@@ -458,11 +460,31 @@ def properties():
                 rectangle_section(P_POST, "Post", POST_SIDE, POST_SIDE)]
     plates = [(P_SLAB, "Slab", SLAB), (P_PODIUM, "Podium slab", PODIUM_SLAB), (P_CANOPY, "Canopy", CANOPY_SLAB),
               (P_WALL, "Wall", CORE_WALL), (P_BASEMENT_WALL, "Basement wall", BASEMENT_WALL)]
-    prop_2d = [{"n": n, "name": name, "materialAnalysis": 1, "thickness": t} for n, name, t in plates]
+    made_of = {"materialAnalysis": 1, "materialDesign": GRADE}
+    prop_2d = [{"n": n, "name": name} | made_of | {"thickness": t} for n, name, t in plates]
     prop_2d.append({"n": P_FACADE, "name": "Facade", "type": LOAD_PANEL})
-    prop_3d = [{"n": P_RAFT, "name": "Raft", "materialAnalysis": 1}]
+    prop_3d = [{"n": P_RAFT, "name": "Raft"} | made_of]
     crept = concrete | {"n": 2, "name": "Concrete, crept", "youngsModulus": YOUNGS_MODULUS / LONG_TERM}
-    return {"MatAnal": [concrete, crept], "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+    elastic = {k: v for k, v in concrete.items() if k not in ("n", "name")}
+    grades = [{"n": 1, "name": "C30/37", "elastic": elastic, "cylinderStrength": 30e6, "cubeStrength": 37e6,
+               "tensileStrength": 2.9e6, "crushingStrain": 0.0035}]
+    bars = [{"n": 1, "name": "B500B", "yieldStrength": 500e6, "ultimateStrength": 540e6, "ultimateStrain": 0.05}]
+    return {"MatConcrete": whole_numbers(grades), "MatRebar": whole_numbers(bars), "MatAnal": [concrete, crept],
+            "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+
+
+def whole_numbers(records):
+    return [{k: int(v) if isinstance(v, float) and v == int(v) else v for k, v in r.items()} for r in records]
+
+
+def combinations():
+    """Factors of EN 1990, 6.10 and 6.12b, with the psi factors of offices, snow below 1000 m and wind."""
+    lasting = f"1.35A{DEAD} + 1.35A{FINISHED}"
+    texts = [("Floors, snow with them", f"{lasting} + 1.5A{IMPOSED} + 0.75A{SNOWED}"),
+             ("Wind, floors with it", f"{lasting} + (1.5A{WIND_X} or 1.5A{WIND_Y}) + 1.05A{IMPOSED}"),
+             ("Earthquake", f"A{DEAD} + A{FINISHED} + 0.3A{IMPOSED} + (1 or -1)A{RESPONSE_X} + (0.3 or -0.3)A{RESPONSE_Y}"),
+             ("All", "C1 to C3")]
+    return [{"n": n, "name": name, "description": text} for n, (name, text) in enumerate(texts, 1)]
 
 
 def lists_by(word):
@@ -559,7 +581,7 @@ def tasks():
              "task": MODAL, "source": 9, "spectrum": [1, 1, 0]},
             {"n": P_DELTA, "class": "CZssTask", "name": "Second order", "solution": 4, "stage": 3, "pDelta": lasting,
              "pDeltaEffects": True}]
-    return {"AnalysisTask": task, "AnalysisCase": cases}
+    return {"AnalysisTask": task, "AnalysisCase": cases, "CombinationCase": combinations()}
 
 
 MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]
@@ -611,12 +633,20 @@ def model():
                 number) | {"LoadCaseTitle": load_cases()} | stages() | tasks()
 
 
+def shortest(whole):
+    """A whole number as model files have it: with an exponent where that is shorter."""
+    digits = whole[0].rstrip("0")
+    mantissa = f"{digits[0]}.{digits[1:]}" if len(digits) > 1 else digits
+    short = f"{mantissa}e+{len(whole[0]) - 1:02}"
+    return min(whole[0], short, key=len)
+
+
 def text():
     units = {"length": "m", "force": "N", "mass": "kg", "time": "s", "temperature": "C", "angle": "deg"}
     head = {"format": "tarvex-model", "version": "1.0", "generator": "six-storey example", "units": units}
     entries = [f"  {json.dumps(k)}: {json.dumps(v)}" for k, v in head.items()]
     for name, records in model().items():
-        lines = ",\n".join("    " + json.dumps(r) for r in records)
+        lines = ",\n".join("    " + re.sub(r"\b\d{6,}\b", shortest, json.dumps(r)) for r in records)
         entries.append(f'  "{name}": [\n{lines}\n  ]')
     return "{\n" + ",\n".join(entries) + "\n}\n"
 

@@ -8,14 +8,16 @@
 #include "workbench/commands/renumber.h"
 #include "workbench/commands/selection.h"
 #include "workbench/commands/tidy.h"
+#include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RenumberCommands(), TidyCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
+                             PictureCommands(), OrientationCommands(), RenumberCommands(),
+                             TidyCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
