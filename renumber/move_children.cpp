@@ -66,8 +66,9 @@ void MoveMeshes(RenumberRun const& run) {
   for (int old = members.Next(0); old != 0; old = members.Next(old))
     if (int const number = run.Map(CModule::Member, old); number != 0) stored[number] = old;
   for (auto const& [number, old] : stored) {
+    if (number == old) continue;
     auto mesh = members.Find(old)->AnalysisMesh();
-    if (number == old || mesh.Replicas().empty()) continue;
+    if (mesh.Replicas().empty()) continue;
     auto copy = run.model.Member(number);
     copy.SetAnalysisMesh(std::move(mesh));
     run.model.SetMember(number, copy, SidMode::Keep);

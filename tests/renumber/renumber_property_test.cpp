@@ -24,7 +24,7 @@ using Testing::Random;
 using Testing::Scheme;
 using Schemes = std::map<CModule::ModuleId, Scheme>;
 
-constexpr int kModels = 40;
+constexpr int kModels = 24;
 
 std::vector<CModule::ModuleId> const kPermuted{
     CModule::Axis,         CModule::GridPlane,   CModule::GridSurface,   CModule::Polyline,

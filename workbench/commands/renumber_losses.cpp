@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <set>
 
+#include "store/model/list_expansion.h"
 #include "store/model/registry.h"
 #include "workbench/commands/renumber_run.h"
 #include "workbench/file/references.h"
@@ -161,6 +163,11 @@ class Losses {
     auto const was = before.String().ToUtf8();
     if (!before.IsEmpty() && after.IsEmpty())
       Warn("emptied-list", table, n, name + " named '" + was + "' and names nothing now");
+    if (before.TypeOf() >= SelNode && before.TypeOf() <= SelMember &&
+        !SelectsTheSame(before, after))
+      Warn("list-selects-otherwise", table, n,
+           name + " was '" + was + "', and what it is now, '" + after.String().ToUtf8() +
+               "', selects others");
     auto const& words = before.Word();
     for (std::size_t i = 1; i < words.size(); ++i)
       for (auto const& word : kPropertyWords)
@@ -169,6 +176,17 @@ class Losses {
           Warn("word-without-number", table, n,
                name + " named '" + was + "' and is '" + after.String().ToUtf8() + "' now, since " +
                    std::string(word.text) + std::to_string(words[i]) + " went");
+  }
+
+  /// Whether a list of entities selects the records that it selected, where they are now.
+  bool SelectsTheSame(CEntList const& before, CEntList const& after) const {
+    auto const module = EntModId(before.TypeOf());
+    std::set<int> expected;
+    for (int const n : Util::Item(before, m_run.before, -1, true))
+      if (int const number = m_run.renumber.MapItem(module, n); number != 0)
+        expected.insert(number);
+    auto const& now = Util::Item(after, m_run.after, -1, true);
+    return std::equal(now.begin(), now.end(), expected.begin(), expected.end());
   }
 
   FinishedRun const& m_run;

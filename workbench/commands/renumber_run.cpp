@@ -121,6 +121,9 @@ void RunRenumbering(CZelData& model, SchemeMaps const& schemes, bool keepDescrip
   if (!result.did) RefuseElement(before);
   ReportMoves(before, schemes, result);
   ReportErased(before, model, schemes, result);
+  if (model.AnyResults())
+    result.warnings.push_back(
+        {"stale-results", "", 0, "results still stand under the numbers before the renumbering"});
   ReportLosses({before, model, renumber, all, keepDescriptions}, result);
 }
 

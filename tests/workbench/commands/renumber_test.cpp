@@ -195,6 +195,19 @@ TEST_F(RenumberCommand, NamesListsThatTheRulesEmpty) {
   EXPECT_EQ(Record("Node", 6).at("axis"), 1);
 }
 
+TEST_F(RenumberCommand, NamesListsThatSelectOtherRecordsThanBefore) {
+  // 4 to 6 step 3 is node 4 alone; its end follows node 6 all the same, and 106 is in reach of 4.
+  auto text = Model();
+  text.replace(text.find("2 to 9"), 6, "4 to 6 step 3");
+  auto const model = Write("stepped.json", text);
+  auto const result =
+      RunTarvex({"renumber", model, "--table", "Node", "--shift", "5,100", "--dry-run", "--json"});
+  EXPECT_EQ(Warned(result.Json(), "list-selects-otherwise"), Lines{"List 1"});
+  EXPECT_EQ(Warned(RunOn({"renumber", "--table", "Node", "--shift", "5,100"}, 0).Json(),
+                   "list-selects-otherwise"),
+            Lines{});
+}
+
 TEST_F(RenumberCommand, NamesNodesThatKeepTheNumberOfTheirSpring) {
   auto const data = Data({"renumber", "--table", "SpringProp", "--compress"}, 1);
   EXPECT_EQ(Undone(data), Lines{"Node 2: springProperty still says SpringProp 4"});
