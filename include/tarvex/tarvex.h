@@ -2,3 +2,5 @@
 #pragma once
 
 #include "tarvex/orientation.h"
+#include "tarvex/renumber.h"
+#include "tarvex/tidy.h"

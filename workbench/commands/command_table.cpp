@@ -5,7 +5,9 @@
 #include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/renumber.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/tidy.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -13,8 +15,9 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
+                             PictureCommands(), OrientationCommands(), RenumberCommands(),
+                             TidyCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }

@@ -14,6 +14,15 @@ Json Undones(std::vector<Undone> const& undone) {
   return json;
 }
 
+Json Maps(std::map<std::string, std::vector<std::pair<int, int>>> const& maps) {
+  Json json = Json::object();
+  for (auto const& [table, moves] : maps) {
+    auto& rows = json[table] = Json::array();
+    for (auto const& [old, number] : moves) rows.push_back({old, number});
+  }
+  return json;
+}
+
 Json Tolerances(std::vector<ToleranceUsed> const& tolerances) {
   Json json = Json::array();
   for (auto const& item : tolerances)
@@ -64,7 +73,7 @@ Json DataJson(Report const& report) {
             {"dryRun", report.dryRun},
             {"did", result.did},
             {"changes", ChangesJson(report.changes)},
-            {"maps", Json::object()},
+            {"maps", Maps(result.maps)},
             {"messages", result.messages},
             {"undone", Undones(result.undone)},
             {"totals", TotalChangesJson(report.totals)},
