@@ -1,4 +1,6 @@
 // All tools of the library.
 #pragma once
 
+#include "tarvex/data_mgr.h"
 #include "tarvex/orientation.h"
+#include "tarvex/split_connect.h"
