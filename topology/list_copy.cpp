@@ -11,13 +11,14 @@ namespace {
 using Data::CEntList;
 
 /// Whether a number that is put at the end of a list adds to what it selects and does no more: the
-/// last word is none that would take it.
-bool EndsOpenly(CEntList const& list) {
-  if (list.NumWord() == 0) return true;
-  int const last = list.Word().back();
-  bool const number = last >= 0;
-  return number || last == Data::kAll || last == Data::kHighest || last == Data::kClose ||
-         last == Data::kString;
+/// last word is none that would take it, and no saved list is named, which might be this very one.
+bool OnlyGains(CEntList const& list) {
+  auto const& words = list.Word();
+  if (words.empty()) return true;
+  for (int const word : words)
+    if (word == Data::kSavedList || word == Data::kString) return false;
+  int const last = words.back();
+  return last >= 0 || last == Data::kAll || last == Data::kHighest || last == Data::kClose;
 }
 
 /// A list that grows at its end, asked in between. As long as what is added does no more than add,
@@ -25,11 +26,11 @@ bool EndsOpenly(CEntList const& list) {
 class GrowingList {
  public:
   GrowingList(CEntList& list, SelType kind, CZelData const& model)
-      : m_list(list), m_first(list), m_kind(kind), m_model(model), m_open(EndsOpenly(list)) {}
+      : m_list(list), m_first(list), m_kind(kind), m_model(model), m_onlyGains(OnlyGains(list)) {}
 
   bool Includes(int number) const {
     SEntRef const ref(m_kind, number);
-    if (!m_open) return Util::IsItemIncluded(m_list, ref, m_model, -1, false);
+    if (!m_onlyGains) return Util::IsItemIncluded(m_list, ref, m_model, -1, false);
     if (Util::IsItemIncluded(m_first, ref, m_model, -1, false)) return true;
     return m_added.contains(number) && !(m_kind == SelElement && m_model.LoadPanelExist(number));
   }
@@ -44,7 +45,7 @@ class GrowingList {
   CEntList const m_first;
   SelType m_kind;
   CZelData const& m_model;
-  bool m_open;
+  bool m_onlyGains;
   std::unordered_set<int> m_added;
 };
 
