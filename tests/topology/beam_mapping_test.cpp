@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "tests/topology/private_access.h"
 #include "tests/topology/topology_support.h"
 
 namespace Tarvex::BeamMappingTest {
@@ -494,7 +495,7 @@ TEST(MapBeamLoading, SnapsEndsThatAreNearerThanATenthOfAThousandMillionth) {
   EXPECT_EQ(Loads(model), (AllSeen{{L"8", 1, 5, 0, 0, 0}, {L"9", 1, 6, 0, 6, 0}}));
 }
 
-TEST(MapBeamLoading, TellsHowFarAPieceLiesOffTheAxisToNobody) {
+TEST(MapBeamLoading, TakesAPieceOffTheAxisByItsShadow) {
   auto model = CutModel({});
   int const a = NodeAt(model, 2, 3, 4);
   int const b = NodeAt(model, 6, 0, 0);
@@ -502,6 +503,13 @@ TEST(MapBeamLoading, TellsHowFarAPieceLiesOffTheAxisToNobody) {
   Add(model, Load(LoadType::Linear, {10, 30}));
   EXPECT_TRUE(Map(model, {{7, {8}}}));
   EXPECT_EQ(Loads(model), (AllSeen{{L"8", 3, 14, 22, 0, 0}}));
+  double start = 0;
+  double end = 0;
+  CDataMgr const manager(model);
+  // 3 and 4 off the axis: the farther end is 5 off.
+  EXPECT_NEAR(CallPrivate(PieceDeviation(), manager, SelElement, 7, 8, start, end), 5, 1e-12);
+  EXPECT_NEAR(start, 2, 1e-12);
+  EXPECT_NEAR(end, 6, 1e-12);
 }
 
 // What has no length, no finite place or no finite value.
