@@ -5,15 +5,18 @@
 #include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/references.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/split_connect.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family :
+       {InspectCommands(), SelectionCommands(), PictureCommands(), OrientationCommands(),
+        ReferenceUpdateCommands(), SplitConnectCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
