@@ -21,6 +21,7 @@ MAY_INCLUDE = {
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
     "renumber": ["store/", "tarvex/", "frame/"],
+    "topology": ["store/", "tarvex/", "frame/", "renumber/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.
