@@ -18,6 +18,7 @@ MAY_INCLUDE = {
     "store/model": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
+    "loads": ["store/", "tarvex/", "topology/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.

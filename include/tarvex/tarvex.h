@@ -1,4 +1,5 @@
 // All tools of the library.
 #pragma once
 
+#include "tarvex/combinations.h"
 #include "tarvex/orientation.h"
