@@ -9,6 +9,7 @@
 #include "store/model/zel_data.h"
 #include "store/record/cases.h"
 #include "store/record/spec.h"
+#include "store/record/task_slot.h"
 #include "store/record/tasks.h"
 #include "tarvex/combinations.h"
 
