@@ -1,3 +1,4 @@
+#include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
@@ -12,8 +13,9 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family :
+       {InspectCommands(), SelectionCommands(), PictureCommands(), OrientationCommands(),
+        CombineCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
