@@ -89,6 +89,12 @@ class Comparison {
     Warn(code, "CombinationCase", combination, CombinationText(m_model, combination) + what,
          clause);
   }
+  bool HasVariable() const {
+    auto const& actions = m_run.plan.actions;
+    return std::any_of(actions.begin(), actions.end(), [](auto const& entry) {
+      return TensOf(entry.second.TypeOf()) == kVariableActions;
+    });
+  }
   int CountActions(CaseType type) const {
     auto const& actions = m_run.plan.actions;
     return static_cast<int>(std::count_if(actions.begin(), actions.end(), [&](auto const& entry) {
@@ -131,12 +137,17 @@ class Comparison {
     for (auto const type :
          {CaseType::SelfWeight, CaseType::Soil, CaseType::PermanentEquivalent, CaseType::Prestress})
       if (int const count = CountActions(type); count > 1) WarnOfAlternatives(type, count);
+    if (int const count = CountImposedLeaders(); count > 1)
+      WarnOfAlternatives(CaseType::Imposed, count);
+  }
+  /// Of imposed actions of one source every second one goes with the one before.
+  int CountImposedLeaders() const {
     std::map<int, int> entries;  // by source
     for (auto const& entry : m_run.plan.actions)
       if (entry.second.TypeOf() == CaseType::Imposed) ++entries[entry.second.Source()];
-    int leaders = 0;  // of one source every second one goes with the one before
+    int leaders = 0;
     for (auto const& entry : entries) leaders += (entry.second + 1) / 2;
-    if (leaders > 1) WarnOfAlternatives(CaseType::Imposed, leaders);
+    return leaders;
   }
   void WarnOfAlternatives(CaseType type, int count) {
     auto const first =
@@ -184,20 +195,20 @@ class Comparison {
              " stands for nothing: its variable actions are all of one kind, and none can lead "
              "beside another",
              clause + ", has each of them as the leading action");
-    if (family.type == CombSlsFrequent)
+    if (family.type == CombSlsFrequent && !isEmpty)
       WarnOf("persistent-factors", family.last, " has the factors of ULS Persistent",
              clause +
                  ", has 1 for permanent actions, psi1 for the leading variable action and psi2 "
                  "for the others");
-    if (family.type == CombSlsQuasiPermanent)
+    if (family.type == CombSlsQuasiPermanent && !isEmpty)
       WarnOf("persistent-factors", family.last,
              " has the factors of ULS Persistent, without reduction for any variable action",
              clause + ", has 1 for permanent actions and psi2 for variable ones");
-    if (family.type == CombUlsAccidental && m_run.choice.psiAccidental == 0)
+    if (family.type == CombUlsAccidental && m_run.choice.psiAccidental == 0 && HasVariable())
       WarnOf("leading-factor", family.last, " has psi0 for the leading variable action",
              clause + " and Table A1.3, has psi1 or psi2");
     if (HasLeadingAction(family.type)) CompareSingleAction(family, clause);
-    if (family.type == CombUlsSeismic) CompareImposedBesideSeismic(family, clause);
+    CompareImposedActions(family, clause);
     if (!hasEmptyEnvelope) CompareMissingActions(family, clause);
   }
 
@@ -232,8 +243,12 @@ class Comparison {
     return {};
   }
 
-  /// Beside an earthquake imposed actions of one source, and those on roofs, take turns.
-  void CompareImposedBesideSeismic(WrittenFamily const& family, std::string const& clause) {
+  /// Alternatives with a companion in the place of its imposed action, or with a roof, are without
+  /// that action. Where the favourable factor is 0 they give nothing else.
+  void CompareImposedActions(WrittenFamily const& family, std::string const& clause) {
+    bool const hasOwnFactors = family.type == CombUlsAccidental || family.type == CombUlsSeismic ||
+                               family.type == CombSlsCharacteristic;
+    if (!hasOwnFactors || CountImposedLeaders() > 1) return;
     for (auto const& [n, title] : m_run.plan.actions) {
       auto const offered = family.offered.find(n);
       if (title.TypeOf() != CaseType::Imposed || offered == family.offered.end()) continue;
@@ -241,7 +256,7 @@ class Comparison {
       if (values.size() > 1 && values.contains(0))
         WarnOf("absent-from-some", n,
                " is in some alternatives of " + CombinationText(m_model, family.last) + " only",
-               clause + ", has it in all with psi2");
+               clause + ", has it in all");
     }
   }
 

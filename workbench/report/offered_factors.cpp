@@ -12,6 +12,32 @@ double Times(double a, double b) { return a * b + 0.0; }
 
 }  // namespace
 
+/// Gathers what alternatives offer, one by one.
+class FactorOffers::Alternatives {
+ public:
+  void Add(Offer const& offer) {
+    if (!offer.hasAlternative) return;
+    ++m_count;
+    for (auto const& [n, offered] : offer.cases) {
+      auto& target = m_either.cases[n];
+      target.values.insert(offered.values.begin(), offered.values.end());
+      target.isNonLinear = target.isNonLinear || offered.isNonLinear;
+      ++m_holders[n];
+    }
+  }
+  Offer Take() {
+    m_either.hasAlternative = m_count > 0;
+    for (auto const& [n, count] : m_holders)
+      if (count < m_count) m_either.cases[n].values.insert(0);
+    return std::move(m_either);
+  }
+
+ private:
+  Offer m_either;
+  std::map<int, int> m_holders;  // alternatives that have the case
+  int m_count = 0;
+};
+
 FactorOffers::FactorOffers(CZelData const& model, std::set<int> const& cases)
     : m_model(model), m_cases(cases) {}
 
@@ -52,8 +78,11 @@ FactorOffers::Offer FactorOffers::OfPart(Data::CasePart const& part,
       return part.first.type == CaseOp::Combination ? OfCombination(part.first.num) : Offer();
     case Kind::Range:
       return OfRange(part);
-    case Kind::Either:
-      return EitherOf(inner);
+    case Kind::Either: {
+      Alternatives alternatives;
+      for (auto const* offer : inner) alternatives.Add(*offer);
+      return alternatives.Take();
+    }
     case Kind::NonLinear:
       return NonLinear(inner);
     case Kind::Scaled:
@@ -67,11 +96,15 @@ FactorOffers::Offer FactorOffers::OfPart(Data::CasePart const& part,
 }
 
 FactorOffers::Offer FactorOffers::OfRange(Data::CasePart const& part) {
-  std::vector<Offer const*> offers;
-  if (part.first.type == CaseOp::Combination)
-    for (int n = part.first.num; n <= part.last; ++n)
-      if (m_model.CombinationCaseExist(n)) offers.push_back(&OfCombination(n));
-  return EitherOf(offers);
+  Alternatives alternatives;
+  if (part.first.type != CaseOp::Combination) return alternatives.Take();
+  for (int n = part.first.num; n <= part.last; ++n) {
+    if (!m_model.CombinationCaseExist(n)) continue;
+    bool const isNew = !m_known.contains(n);
+    alternatives.Add(OfCombination(n));
+    if (isNew) m_known.erase(n);
+  }
+  return alternatives.Take();
 }
 
 FactorOffers::Offer FactorOffers::Scaled(Offer const& offer, std::vector<double> const& factors) {
@@ -98,26 +131,6 @@ FactorOffers::Offer FactorOffers::Summed(Offer const& a, Offer const& b) {
     found->second.isNonLinear = found->second.isNonLinear || offered.isNonLinear;
   }
   return sum;
-}
-
-FactorOffers::Offer FactorOffers::EitherOf(std::vector<Offer const*> const& offers) {
-  Offer either{{}, false};
-  std::map<int, std::size_t> holders;
-  std::size_t alternatives = 0;
-  for (auto const* offer : offers) {
-    if (!offer->hasAlternative) continue;
-    ++alternatives;
-    for (auto const& [n, offered] : offer->cases) {
-      auto& target = either.cases[n];
-      target.values.insert(offered.values.begin(), offered.values.end());
-      target.isNonLinear = target.isNonLinear || offered.isNonLinear;
-      ++holders[n];
-    }
-  }
-  either.hasAlternative = alternatives > 0;
-  for (auto const& [n, count] : holders)
-    if (count < alternatives) either.cases[n].values.insert(0);
-  return either;
 }
 
 FactorOffers::Offer FactorOffers::NonLinear(std::vector<Offer const*> const& offers) {

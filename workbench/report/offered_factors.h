@@ -33,6 +33,7 @@ class FactorOffers {
     std::map<int, OfferedFactors> cases;
     bool hasAlternative = true;
   };
+  class Alternatives;
 
   Offer const& OfCombination(int combination);
   Offer OfDescription(Data::CaseExpression const& tree);
@@ -40,12 +41,11 @@ class FactorOffers {
   Offer OfRange(Data::CasePart const& part);
   static Offer Scaled(Offer const& offer, std::vector<double> const& factors);
   static Offer Summed(Offer const& a, Offer const& b);
-  static Offer EitherOf(std::vector<Offer const*> const& offers);
   static Offer NonLinear(std::vector<Offer const*> const& offers);
 
   CZelData const& m_model;
   std::set<int> m_cases;
-  std::map<int, Offer> m_known;
+  std::map<int, Offer> m_known;  // but for those of ranges, of which there may be very many
 };
 
 }  // namespace Tarvex::Workbench
