@@ -1,7 +1,9 @@
 // The combination generators, as an application links them.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <utility>
+#include <vector>
 
 #include "store/model/zel_data.h"
 #include "store/record/cases.h"
@@ -80,6 +82,33 @@ TYPED_TEST(CombinationsLink, ProtectedMembersServeDerivedGenerators) {
   EXPECT_TRUE(OwnGenerator<TypeParam>::HasLinkedFactors());
   EXPECT_TRUE(OwnGenerator<TypeParam>::HasLinkedSteps());
 }
+
+#if defined(__GXX_ABI_VERSION)
+/// Place of a virtual member behind the first one, by the pointer to it.
+template <class Pointer>
+std::ptrdiff_t PlaceOf(Pointer pointer) {
+  std::ptrdiff_t words[2];
+  static_assert(sizeof(pointer) == sizeof(words));
+  std::memcpy(words, &pointer, sizeof(words));
+  return (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
+
+template <class Base>
+class Places : public Base {
+ public:
+  static std::vector<std::ptrdiff_t> OfFactors() {
+    using Own = Places;
+    return {PlaceOf(&Own::GammaG), PlaceOf(&Own::GammaP), PlaceOf(&Own::GammaQ),
+            PlaceOf(&Own::GammaA), PlaceOf(&Own::GammaI), PlaceOf(&Own::Psi),
+            PlaceOf(&Own::Psi0),   PlaceOf(&Own::Psi1),   PlaceOf(&Own::Psi2)};
+  }
+};
+
+TYPED_TEST(CombinationsLink, FactorsStandInOrderBehindTheTwoEntriesOfTheDestructor) {
+  EXPECT_EQ(Places<TypeParam>::OfFactors(),
+            (std::vector<std::ptrdiff_t>{2, 3, 4, 5, 6, 7, 8, 9, 10}));
+}
+#endif
 
 /// A national annex of its own.
 class OwnAnnex : public CLoadCombinationGeneratorEuro {

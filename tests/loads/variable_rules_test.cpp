@@ -156,6 +156,16 @@ TEST(VariableCombA, WritesTheEmptyTextOfACompanionAlone) {
                    "8 ULS Seismic = C7"}));
 }
 
+TEST(VariableCombA, TakesOtherThanImposedActionsAlone) {
+  CZelData model;
+  for (int const source : {-1, 1}) AddAction(model, CaseType::Wind, source);
+  AddAction(model, CaseType::Snow);
+  // Where one leads the first would travel with the second, as its companion.
+  EXPECT_EQ(OneFactorOf(model, CombUlsSeismic, 7),
+            (Texts{"7 Variable 1 = C4 + C6", "8 Variable 2 = C5 + C6", "9 Variable = C7 to C8",
+                   "10 ULS Seismic = C9"}));
+}
+
 TEST(VariableCombA, WithoutVariableActionsSetsNoRange) {
   CZelData model;
   AddAction(model, CaseType::SelfWeight);
@@ -295,6 +305,16 @@ TEST(VariableCombB, CountsThePlacesOfEmptyTextsToo) {
                    "16 Variable 1 = C6 + C10 + C8 + C12", "17 Variable 3 = C6 + C10 + C15",
                    "18 Variable 4 = C7 + C11 + C14", "19 Variable = C16 to C18",
                    "20 ULS Persistent = C19"}));
+}
+
+TEST(VariableCombB, TakesANegativeSourceForACompanion) {
+  CZelData model;
+  for (int const source : {-1, 1}) AddAction(model, CaseType::Wind, source);
+  AddAction(model, CaseType::Snow);
+  // Leading 4 and 6 wind, 8 snow.
+  EXPECT_EQ(OneLeadsOf(model, CombUlsPersistent, 10),
+            (Texts{"10 Variable 1 = C6 + C4 + C9", "11 Variable 2 = C7 + C5 + C8",
+                   "12 Variable = C10 to C11", "13 ULS Persistent = C12"}));
 }
 
 TEST(VariableCombB, DoesNotCountRoofs) {

@@ -126,7 +126,9 @@ std::string CombineText(CZelData const& model, CombineRun const& run) {
     rows.push_back(row);
   }
   rows.insert(rows.end(), {finals, counts, permutations});
-  return InColumns(rows);
+  auto const basic = run.plan.actions.size();
+  return InColumns(rows) + Counted(static_cast<std::size_t>(run.plan.Total()), "combination") +
+         ", " + std::to_string(basic) + " of them basic\n";
 }
 
 Json CombineJson(CZelData const& model, CombineRun const& run) {

@@ -104,7 +104,8 @@ TEST_F(Combine, PrintsATable) {
             "C3 Variable : Wind 1          A3     1.5, 0.9, 0\n"
             "final combination                    C12\n"
             "combinations                         9\n"
-            "permutations                         16\n");
+            "permutations                         16\n"
+            "12 combinations, 3 of them basic\n");
 }
 
 TEST_F(Combine, TakesFamiliesByTheirWords) {
