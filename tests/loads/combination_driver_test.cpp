@@ -162,6 +162,8 @@ TEST(CaseDefn, ReadsTheDigitsFromTheSecondCharacterOn) {
   for (int n = 1; n <= 12; ++n) AddAction(model, CaseType::Wind, n);
   OpenEuro euro;
   euro.SetData(&model);
+  model.SetAnalysisCase(12345678, model.AnalysisCase(9));
+  EXPECT_EQ(euro.CaseDefn(L"A12345678 + A2").Source(), 9);
   EXPECT_EQ(euro.CaseDefn(L"A12").Source(), 12);
   EXPECT_EQ(euro.CaseDefn(L"A1 + A2").Source(), 1);
   EXPECT_EQ(euro.CaseDefn(L"X7+A2").Source(), 7);
@@ -273,6 +275,16 @@ TEST(MapTasks, TakesTheTasksInTheirOrder) {
   EXPECT_EQ(Lines(model), Texts{"1 Variable : Wind 1 = A2 + A1"});
   EXPECT_TRUE(Generator(again, {9, kStaticTask}).Combine());
   EXPECT_EQ(Lines(again), Texts{"1 Variable : Wind 1 = A1 + A2"});
+}
+
+TEST(MapTasks, EmptiesTheGroupRanges) {
+  CZelData model;
+  AddAction(model, CaseType::SelfWeight);
+  auto generator = WithBasics(model);
+  generator.PersistentComb(CombUlsPersistent);
+  generator.MapTasks();
+  generator.FinalCombination(CombUlsPersistent);
+  EXPECT_EQ(Lines(model, 3), Texts{"3 ULS Persistent = "});
 }
 
 TEST(NumSource, CountsTheSourcesOfEachKind) {

@@ -265,6 +265,33 @@ TEST_F(Families, StandEachOnTheirOwnBehindOneAnother) {
   EXPECT_EQ(Lines(model, 36).front(), "36 SLS Characteristic = C27 + C28 + C35");
 }
 
+TEST_F(Families, BeginWithoutTheGroupsOfOthers) {
+  struct Row {
+    bool (OpenEuro::*family)();
+    char const* last;
+  };
+  CZelData const basics(model);
+  // Behind an accidental group, 7, that none of these has.
+  for (auto const& row :
+       {Row{&OpenEuro::CombineUlsPersistent, "17 ULS Persistent = C8 + C9 + C16"},
+        Row{&OpenEuro::CombineUlsSeismic, "16 ULS Seismic = C8 + C9 + C13 + C15"},
+        Row{&OpenEuro::CombineSlsCharacter, "17 SLS Characteristic = C8 + C9 + C16"},
+        Row{&OpenEuro::CombineSlsFrequent, "17 SLS Frequent = C8 + C9 + C16"},
+        Row{&OpenEuro::CombineSlsQuasiPerm, "14 SLS Quasi-Permament = C8 + C9 + C13"}}) {
+    CZelData own(basics);
+    OpenEuro copy(generator);
+    copy.SetData(&own);
+    copy.AccidentalComb();
+    EXPECT_TRUE((copy.*row.family)());
+    EXPECT_EQ(Lines(own).back(), row.last);
+  }
+  // Behind a seismic group, 7 and 8.
+  generator.NumSource(CaseType::SeismicStatic, true);
+  generator.SeismicComb();
+  EXPECT_TRUE(generator.CombineUlsAccidental());
+  EXPECT_EQ(Lines(model).back(), "19 ULS Accidental = C9 + C10 + C17 + C18");
+}
+
 TEST_F(Families, TheSelectorChoosesTheFactorOfTheLeadingActionBesideAnAccidentalOne) {
   generator.SetPsiAccidental(0);
   EXPECT_TRUE(generator.CombineUlsAccidental());

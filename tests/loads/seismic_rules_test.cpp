@@ -120,6 +120,35 @@ TEST(SeismicComb, EndsAtASourceWithoutTitlesWithoutARange) {
   EXPECT_EQ(Lines(model), (Texts{"1 Seismic : RSA 2x = A2", "2 ULS Seismic = "}));
 }
 
+/// A generator of a response in x with a case of rain whose title became another one meanwhile. The
+/// basic combination of the latter is 1, that of the response 2.
+OpenEuro WithChangedTitle(CZelData& model, Data::CLoadCaseTitle const& title) {
+  AddAction(model, CaseType::Rain);
+  AddResponse(model, 1, 1);
+  OpenEuro generator;
+  generator.SetData(&model);
+  generator.SetTasks(Testing::AllTasks(model));
+  generator.MapTasks();
+  model.SetLoadCaseTitle(1, title);
+  generator.BasicComb();
+  generator.NumSource(CaseType::SeismicStatic, true);
+  return generator;
+}
+
+TEST(SeismicComb, TakesTheLowestOfTwoResponsesInOneDirection) {
+  CZelData model;
+  WithChangedTitle(model, Testing::Title(CaseType::SeismicResponse, 1, 1)).SeismicComb();
+  EXPECT_EQ(Lines(model, 3),
+            (Texts{"3 Seismic SRSS = SRSS(C1)", "4 Seismic SRSS +/- = (1 or -1)C3"}));
+}
+
+TEST(SeismicComb, TakesTorsionThatItsMapHasOnly) {
+  CZelData model;
+  WithChangedTitle(model, Testing::Title(CaseType::SeismicTorsion, 1, 1)).SeismicComb();
+  EXPECT_EQ(Lines(model, 3),
+            (Texts{"3 Seismic SRSS = SRSS(C2)", "4 Seismic SRSS +/- = (1 or -1)C3"}));
+}
+
 TEST(SeismicComb, WithoutSourcesWritesNothing) {
   CZelData model;
   AddResponse(model, 1, 1);
