@@ -96,19 +96,37 @@ CombineChoice ChoiceOf(Arguments const& arguments) {
   return choice;
 }
 
+/// The names that the generator gives its families.
+struct FamilyNames : CLoadCombinationGeneratorEuro {
+  static std::string Of(std::size_t type) {
+    return CombTypeDesc(static_cast<CombType>(type)).ToUtf8();
+  }
+};
+
+/// "10005 combinations would be written (2001 basic, ULS Persistent 8004)".
+std::string CountsText(CombinationPlan const& plan) {
+  auto const numberText = [](long long count) {
+    auto const text = std::to_string(count);
+    return count == CombinationPlan::kMost ? "at least " + text : text;
+  };
+  auto text = numberText(plan.Total()) + " combinations would be written (" +
+              std::to_string(plan.actions.size()) + " basic";
+  for (std::size_t type = 0; type < kNumCombTypes; ++type)
+    if (auto const count = plan.families[type]; count > 0)
+      text += ", " + FamilyNames::Of(type) + " " + numberText(count);
+  return text + ")";
+}
+
 /// Refuses a family that the model has no cases for, and more combinations than are asked for.
 void RequirePossible(CombineRun const& run, bool yes) {
   if (run.plan.actions.empty()) return;
   if (run.choice.families[CombUlsAccidental] && run.plan.families[CombUlsAccidental] == 0)
-    throw Refusal("ULS Accidental: no accidental cases");
+    throw Refusal(FamilyNames::Of(CombUlsAccidental) + ": no accidental cases");
   if (run.choice.families[CombUlsSeismic] && run.plan.families[CombUlsSeismic] == 0)
-    throw Refusal("ULS Seismic: no seismic cases");
-  auto const total = run.plan.Total();
-  if (total <= kMostCombinations || yes) return;
-  auto const text = std::to_string(total);
-  throw Refusal((total == CombinationPlan::kMost ? "at least " + text : text) +
-                " combinations would be written: more than " + std::to_string(kMostCombinations) +
-                " only with --yes");
+    throw Refusal(FamilyNames::Of(CombUlsSeismic) + ": no seismic cases");
+  if (run.plan.Total() > kMostCombinations && !yes)
+    throw Refusal(CountsText(run.plan) + ": more than " + std::to_string(kMostCombinations) +
+                  " only with --yes");
 }
 
 void RunCombine(CZelData& model, CLoadCombinationGeneratorEuro& generator,

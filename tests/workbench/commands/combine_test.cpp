@@ -250,8 +250,10 @@ TEST_F(Combine, WritesMoreThanTenThousandOnlyWhereTold) {
   auto const more = WindFrom(2000);
   auto const refused = Run(more, {"--families", "persistent"}, false);
   EXPECT_EQ(refused.exit, 3);
-  EXPECT_EQ(refused.err,
-            "tarvex: 10005 combinations would be written: more than 10000 only with --yes\n");
+  EXPECT_EQ(
+      refused.err,
+      "tarvex: 10005 combinations would be written (2001 basic, ULS Persistent 8004): more than "
+      "10000 only with --yes\n");
   EXPECT_EQ(Data(more, {"--families", "persistent", "--yes"}).at("result").at("combinations"),
             10005);
 }
@@ -263,6 +265,22 @@ TEST_F(Combine, SaysHowManyWouldBeWrittenInADryRunToo) {
   auto const refused = dryRun(WindFrom(2000));
   EXPECT_EQ(refused.exit, 3);
   EXPECT_NE(refused.err.find("10005 combinations would be written"), std::string::npos);
+  EXPECT_EQ(refused.out, "");
+  // Thousands of sources of wind, snow and rain are
+  // counted and not listed: 8.1e10 combinations would have no room.
+  std::vector<std::string> titles;
+  for (int source = 1; source <= 3000; ++source)
+    for (auto const* type : {"33", "34", "35", "11"})
+      titles.push_back(std::string(R"("type": )") + type + R"(, "source": )" +
+                       std::to_string(source));
+  auto const huge = dryRun(Cases(titles));
+  EXPECT_EQ(huge.exit, 3);
+  // 12000 basic; 3000 permanent actions, as many ways, an envelope; 2 values of 9000 actions,
+  // either of three groups leading in 3000^3 ways, an envelope; a final one.
+  EXPECT_NE(huge.err.find("(12000 basic, ULS Persistent " +
+                          std::to_string(6001 + 18000 + 3 * 27'000'000'000LL + 1 + 1) + ")"),
+            std::string::npos)
+      << huge.err;
   auto const small = dryRun(Cases({kSelfWeight}));
   EXPECT_EQ(small.exit, 0);
   EXPECT_NE(small.out.find("combinations"), std::string::npos);
