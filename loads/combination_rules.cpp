@@ -30,24 +30,24 @@ CString NameOfBasic(SourceSlot const& slot, CString const& typeText, int source)
 
 }  // namespace
 
-using EuroRules = CLoadCombinationGeneratorEuro;
+using EuroGenerator = CLoadCombinationGeneratorEuro;
 
 /// Calls visit(slot, source, text) for each source that gets a basic combination.
 template <class Visit>
-void EuroRules::ForEachSource(Visit&& visit) const {
+void EuroGenerator::ForEachSource(Visit&& visit) const {
   for (std::size_t slot = 0; slot < kNumSourceMaps; ++slot)
     if (kSourceSlots[slot].hasBasic)
       for (auto const& [source, text] : m_sources[slot]) visit(kSourceSlots[slot], source, text);
 }
 
-void EuroRules::BasicComb() {
+void EuroGenerator::BasicComb() {
   ForEachSource([&](SourceSlot const& slot, int source, CString const& text) {
     AddComb(NameOfBasic(slot, CaseTypeDesc(slot.type), source), text, CaseType::Undefined, 1);
     m_titles[m_highest] = CaseDefn(text);
   });
 }
 
-void EuroRules::PlanActions() {
+void EuroGenerator::PlanActions() {
   ForEachSource(
       [&](SourceSlot const&, int, CString const& text) { m_titles[++m_highest] = CaseDefn(text); });
   NumSource(CaseType::SeismicStatic, true);  // gathers the sources
@@ -55,7 +55,8 @@ void EuroRules::PlanActions() {
 
 /// Writes each action of one tens of types with factorsOf(title). @return what was written
 template <class FactorsOf>
-std::vector<EuroRules::WrittenAction> EuroRules::WriteActions(int tens, FactorsOf&& factorsOf) {
+std::vector<EuroGenerator::WrittenAction> EuroGenerator::WriteActions(int tens,
+                                                                      FactorsOf&& factorsOf) {
   std::vector<WrittenAction> written;
   for (auto const& [number, title] : m_titles) {
     auto const type = title.TypeOf();
@@ -69,19 +70,19 @@ std::vector<EuroRules::WrittenAction> EuroRules::WriteActions(int tens, FactorsO
 }
 
 /// Writes the combination of which any one of those from a number on is taken.
-void EuroRules::WriteEnvelope(wchar_t const* name, int first, CaseType type) {
+void EuroGenerator::WriteEnvelope(wchar_t const* name, int first, CaseType type) {
   AddComb(name, Formatted(L"C%i to C%i", first, m_highest), type, 3);
 }
 
-EuroRules::Factors EuroRules::PermanentFactors(CombType type,
-                                               Data::CLoadCaseTitle const& title) const {
+EuroGenerator::Factors EuroGenerator::PermanentFactors(CombType type,
+                                                       Data::CLoadCaseTitle const& title) const {
   Factors factors{GammaG(type, true), GammaG(type, false)};
   if (title.PermanentMode() == kUpperFactorOnly) factors.second = 0.0;
   if (title.PermanentMode() == kLowerFactorOnly) factors.first = 0.0;
   return factors;
 }
 
-void EuroRules::PersistentComb(CombType type) {
+void EuroGenerator::PersistentComb(CombType type) {
   int const start = m_highest;
   auto const written = WriteActions(kPermanentTens, [&](Data::CLoadCaseTitle const& title) {
     return PermanentFactors(type, title);
@@ -110,7 +111,7 @@ void EuroRules::PersistentComb(CombType type) {
 
 /// Actions of which one at a time is taken.
 template <class FactorsOf>
-void EuroRules::WriteSingly(Group group, int tens, CaseType type, FactorsOf&& factorsOf) {
+void EuroGenerator::WriteSingly(Group group, int tens, CaseType type, FactorsOf&& factorsOf) {
   int const start = m_highest;
   auto const written = WriteActions(tens, factorsOf);
   if (written.size() > 1) {
@@ -124,19 +125,19 @@ void EuroRules::WriteSingly(Group group, int tens, CaseType type, FactorsOf&& fa
   SetRange(group, start);
 }
 
-void EuroRules::PrestressComb(CombType type) {
+void EuroGenerator::PrestressComb(CombType type) {
   // With the factors of permanent actions, whatever GammaP says.
   WriteSingly(kPrestress, kPrestressTens, CaseType::Prestress,
               [&](Data::CLoadCaseTitle const& title) { return PermanentFactors(type, title); });
 }
 
-void EuroRules::AccidentalComb() {
+void EuroGenerator::AccidentalComb() {
   WriteSingly(kAccidental, kAccidentalTens, CaseType::Accidental, [&](Data::CLoadCaseTitle const&) {
     return Factors{GammaA(), GammaA()};
   });
 }
 
-bool EuroRules::CombineUlsPersistent() {
+bool EuroGenerator::CombineUlsPersistent() {
   ClearCombinations();
   PersistentComb(CombUlsPersistent);
   PrestressComb(CombUlsPersistent);
@@ -145,7 +146,7 @@ bool EuroRules::CombineUlsPersistent() {
   return true;
 }
 
-bool EuroRules::CombineUlsAccidental() {
+bool EuroGenerator::CombineUlsAccidental() {
   ClearCombinations();
   if (NumSource(CaseType::Accidental, true) == 0) return false;
   PersistentComb(CombUlsAccidental);
@@ -156,7 +157,7 @@ bool EuroRules::CombineUlsAccidental() {
   return true;
 }
 
-bool EuroRules::CombineUlsSeismic() {
+bool EuroGenerator::CombineUlsSeismic() {
   ClearCombinations();
   if (NumSource(CaseType::SeismicStatic, true) == 0) {
     m_report += CombTypeDesc(CombUlsSeismic) + L": no seismic cases\n";
@@ -170,7 +171,7 @@ bool EuroRules::CombineUlsSeismic() {
   return true;
 }
 
-bool EuroRules::CombineSlsCharacter() {
+bool EuroGenerator::CombineSlsCharacter() {
   ClearCombinations();
   PersistentComb(CombSlsCharacteristic);
   PrestressComb(CombSlsCharacteristic);
@@ -182,7 +183,7 @@ bool EuroRules::CombineSlsCharacter() {
 // The next two take the factors of the persistent family; only their last combination bears their
 // own name.
 
-bool EuroRules::CombineSlsFrequent() {
+bool EuroGenerator::CombineSlsFrequent() {
   ClearCombinations();
   PersistentComb(CombUlsPersistent);
   PrestressComb(CombUlsPersistent);
@@ -191,7 +192,7 @@ bool EuroRules::CombineSlsFrequent() {
   return true;
 }
 
-bool EuroRules::CombineSlsQuasiPerm() {
+bool EuroGenerator::CombineSlsQuasiPerm() {
   ClearCombinations();
   PersistentComb(CombUlsPersistent);
   PrestressComb(CombUlsPersistent);

@@ -25,9 +25,9 @@ int SeismicActions::Find(CaseType type, int direction, int source) const {
   return found == m_numbers.end() ? 0 : found->second;
 }
 
-using EuroSeismicRules = CLoadCombinationGeneratorEuro;
+using EuroGenerator = CLoadCombinationGeneratorEuro;
 
-void EuroSeismicRules::SeismicComb() {
+void EuroGenerator::SeismicComb() {
   int const start = m_highest;
   SeismicActions const actions(m_titles);
   auto const torsionText = CaseTypeDesc(CaseType::SeismicTorsion);
@@ -60,7 +60,7 @@ void EuroSeismicRules::SeismicComb() {
   SetRange(kSeismic, start);
 }
 
-void EuroSeismicRules::WriteBySquares(std::array<int, 3> const& directions) {
+void EuroGenerator::WriteBySquares(std::array<int, 3> const& directions) {
   CString squares = L"SRSS(";
   for (int const number : directions)
     if (number > 0) squares += Formatted(L"C%i,", number);
@@ -68,7 +68,7 @@ void EuroSeismicRules::WriteBySquares(std::array<int, 3> const& directions) {
   AddComb(L"Seismic SRSS +/-", Formatted(L"(1 or -1)C%i", m_highest), CaseType::SeismicStatic, 3);
 }
 
-void EuroSeismicRules::WriteByThirtyPercent(std::array<int, 3> const& directions) {
+void EuroGenerator::WriteByThirtyPercent(std::array<int, 3> const& directions) {
   CString signs;
   for (std::size_t leading = 0; leading < 3; ++leading) {
     if (directions[leading] <= 0) continue;

@@ -82,17 +82,17 @@ std::vector<CString> RoofPairs(VariableEntries const& imposed, VariableEntries c
 
 }  // namespace
 
-using EuroVariableRules = CLoadCombinationGeneratorEuro;
+using EuroGenerator = CLoadCombinationGeneratorEuro;
 
-void EuroVariableRules::SortVariable(std::vector<VariableGroup>& groups) {
+void EuroGenerator::SortVariable(std::vector<VariableGroup>& groups) {
   for (auto& group : groups) PairSources(group);
 }
 
-CString EuroVariableRules::AllVariable(VariableGroup const& group, int n, bool leading) {
+CString EuroGenerator::AllVariable(VariableGroup const& group, int n, bool leading) {
   return VariableTexts(group).Text(n, leading);
 }
 
-void EuroVariableRules::VariableCombA(CombType type) {
+void EuroGenerator::VariableCombA(CombType type) {
   int const start = m_highest;
   int psi[2];
   SetPsiType(type, psi);
@@ -127,7 +127,7 @@ void EuroVariableRules::VariableCombA(CombType type) {
   SetRange(kVariable, start);
 }
 
-void EuroVariableRules::VariableCombB(CombType type) {
+void EuroGenerator::VariableCombB(CombType type) {
   int const start = m_highest;
   int psi[2];
   SetPsiType(type, psi);
@@ -152,7 +152,7 @@ void EuroVariableRules::VariableCombB(CombType type) {
 }
 
 /// Writes the ways in which one group leads and others accompany, and their envelope.
-void EuroVariableRules::WriteLeadingWays(std::vector<VariableGroup> const& groups) {
+void EuroGenerator::WriteLeadingWays(std::vector<VariableGroup> const& groups) {
   int const first = m_highest + 1;
   int place = 0;
   auto const write = [&](CString const& text) {
