@@ -22,6 +22,7 @@ MAY_INCLUDE = {
     "frame": ["store/", "tarvex/"],
     "renumber": ["store/", "tarvex/", "frame/"],
     "topology": ["store/", "tarvex/", "frame/", "renumber/"],
+    "loads": ["store/", "tarvex/", "topology/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.

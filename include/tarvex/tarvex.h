@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tarvex/data_mgr.h"
+#include "tarvex/combinations.h"
 #include "tarvex/orientation.h"
 #include "tarvex/renumber.h"
 #include "tarvex/split_connect.h"

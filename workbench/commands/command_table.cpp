@@ -1,5 +1,6 @@
 #include <array>
 
+#include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
@@ -21,7 +22,7 @@ namespace {
 constexpr std::array kFamilies{
     &InspectCommands,      &TotalsCommands,   &SelectionCommands, &PictureCommands,
     &OrientationCommands,  &RenumberCommands, &TidyCommands,      &ReferenceUpdateCommands,
-    &SplitConnectCommands, &RecipeCommands,   &ReferenceCommands,
+    &SplitConnectCommands, &CombineCommands,  &RecipeCommands,    &ReferenceCommands,
 };
 
 std::vector<Command> MakeTable() {
