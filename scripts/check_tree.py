@@ -16,9 +16,11 @@ MAY_INCLUDE = {
                      "store/geometry/"],
     "store/table": ["store/export.h", "store/text/", "store/select/"],
     "store/model": ["store/"],
+    "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
     "renumber": ["store/", "tarvex/", "frame/"],
+    "topology": ["store/", "tarvex/", "frame/", "renumber/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.
