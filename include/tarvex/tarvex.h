@@ -3,6 +3,7 @@
 
 #include "tarvex/data_mgr.h"
 #include "tarvex/combinations.h"
+#include "tarvex/coincidence.h"
 #include "tarvex/orientation.h"
 #include "tarvex/renumber.h"
 #include "tarvex/split_connect.h"
