@@ -1,9 +1,9 @@
 // All tools of the library.
 #pragma once
 
-#include "tarvex/data_mgr.h"
-#include "tarvex/combinations.h"
 #include "tarvex/coincidence.h"
+#include "tarvex/combinations.h"
+#include "tarvex/data_mgr.h"
 #include "tarvex/orientation.h"
 #include "tarvex/renumber.h"
 #include "tarvex/split_connect.h"
