@@ -7,6 +7,7 @@
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -14,8 +15,8 @@ namespace {
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
   for (auto const& family :
-       {InspectCommands(), SelectionCommands(), PictureCommands(), OrientationCommands(),
-        CombineCommands(), RecipeCommands(), ReferenceCommands()})
+       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
+        OrientationCommands(), CombineCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
