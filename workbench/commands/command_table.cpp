@@ -29,6 +29,9 @@ std::vector<Command> MakeTable() {
   std::vector<Command> table;
   for (auto const& commands : kFamilies) {
     auto const family = commands();
+  for (auto const& family :
+       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
+        OrientationCommands(), CombineCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   }
   return table;
