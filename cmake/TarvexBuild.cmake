@@ -34,6 +34,12 @@ if(TARVEX_MOLD)
   target_link_options(tarvex_options INTERFACE -fuse-ld=mold)
 endif()
 
+# The reference BLAS, in whose place the system may put any other; the dense solver alone calls it.
+if(NOT BLA_VENDOR)
+  set(BLA_VENDOR Generic)
+endif()
+find_package(BLAS REQUIRED)
+
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 

@@ -45,6 +45,7 @@ bool CRenumber::Go(bool keepDescriptions) const {
   RebuildHold const hold(model);
   if (!m_parts->refOnly) MoveRecords(run);
   MoveChildren(run);
+  MoveMeshes(run);
   return RewriteReferences(run, [&] { AdjustCaseRefs(&model, cases, keepDescriptions); });
 }
 

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "renumber/property_tables.h"
-#include "renumber/stage_property.h"
 #include "store/model/registry.h"
 #include "tarvex/tidy.h"
 
@@ -38,14 +37,14 @@ class UseMarker {
     for (auto const& [n, element] : m_model.Elem()) {
       auto const number = static_cast<int>(n);
       if (!m_model.ElemIsActive(number, m_stage)) continue;
-      Property(TidiedTable(element.Type()), StagePropertyOf(m_model, number, m_stage));
+      Property(TidiedTable(element.Type()), m_model.StageProperty(number, m_stage));
     }
   }
   void LoadPanels() {
     for (auto const& [n, panel] : m_model.LoadPanels()) {
       auto const number = static_cast<int>(n);
       if (!m_model.IsLoadPanelActive(number, m_stage)) continue;
-      if (int const property = StagePropertyOf(m_model, number, m_stage); property != 0)
+      if (int const property = m_model.StageProperty(number, m_stage); property != 0)
         Mark(CModule::Prop2D, property);
     }
   }
@@ -55,7 +54,7 @@ class UseMarker {
       auto const family = FamilyOf(table);
       int const own = member.Property();
       Property(table,
-               family == PropertyType::None ? own : StagePropertyOf(m_model, family, own, m_stage));
+               family == PropertyType::None ? own : m_model.StageProperty(family, own, m_stage));
     }
   }
 
@@ -63,7 +62,7 @@ class UseMarker {
   void Mark(Id module, int n) { m_maps[module].try_emplace(n, n); }
 
   void OfNode(PropertyType family, int own) {
-    int const property = StagePropertyOf(m_model, family, own, m_stage);
+    int const property = m_model.StageProperty(family, own, m_stage);
     if (property > 0) Mark(PropertyModule(family), property);
   }
 

@@ -14,19 +14,24 @@ void Rename(NamedEntity& record, CString const& defaultName, int old, int number
     record.SetName(Util::ReplaceHash(defaultName, number));
 }
 
-template <class Record>
-using StoreAt = void (*)(CZelData&, int, Record const&);
-
-/// A table of loads: how it is read, cleared and appended to.
+/// A table of loads: how it is read, cleared and appended to, by one of two forms.
 template <class Record>
 struct MovedLoads {
   std::vector<Record> const& (CZelData::*all)() const;
   void (CZelData::*clear)(int, int);
-  StoreAt<Record> store;
+  void (CZelData::*set)(int, Record const&, SidMode);
+  void (CZelData::*setFlagged)(int, Record const&, bool, SidMode) = nullptr;
+
+  void Store(CZelData& model, int n, Record const& record) const {
+    if (setFlagged != nullptr)
+      (model.*setFlagged)(n, record, true, SidMode::Keep);
+    else
+      (model.*set)(n, record, SidMode::Keep);
+  }
 };
 
 template <class Record>
-bool MoveTable(RenumberRun const& run, MovedLoads<Record> const& table) {
+bool MoveLoadTable(RenumberRun const& run, MovedLoads<Record> const& table) {
   (run.model.*table.clear)(0, 1);
   int next = 0;
   for (auto const& load : (run.before.*table.all)()) {
@@ -35,15 +40,9 @@ bool MoveTable(RenumberRun const& run, MovedLoads<Record> const& table) {
     if (loadCase == 0 && load.LoadCase() != 0) continue;
     Record copy(load);
     copy.SetLoadCase(loadCase);
-    table.store(run.model, ++next, copy);
+    table.Store(run.model, ++next, copy);
   }
   return next > 0;
-}
-
-/// Stores a load in a table whose store takes nothing but the record.
-template <class Record, void (LoadTables::*Set)(int, Record const&, SidMode)>
-void Plain(CZelData& model, int n, Record const& load) {
-  (model.*Set)(n, load, SidMode::Keep);
 }
 
 using Data::CAxialLoad;
@@ -63,50 +62,38 @@ using Data::CNodeLoad;
 // In the order in which they are moved. Loads on solids are not among them: they keep the number of
 // their load case.
 constexpr auto kMovedLoads = MakeRows(
-    MovedLoads<CNodeLoad>{&CZelData::NodeLoad, &CZelData::DeleteNodeLoad,
-                          &Plain<CNodeLoad, &LoadTables::SetNodeLoad>},
+    MovedLoads<CNodeLoad>{&CZelData::NodeLoad, &CZelData::DeleteNodeLoad, &CZelData::SetNodeLoad},
     MovedLoads<CNodeLoad>{&CZelData::AppliedDisplacement, &CZelData::DeleteAppliedDisplacement,
-                          &Plain<CNodeLoad, &LoadTables::SetAppliedDisplacement>},
+                          &CZelData::SetAppliedDisplacement},
     MovedLoads<CNodeLoad>{&CZelData::Settlement, &CZelData::DeleteSettlement,
-                          &Plain<CNodeLoad, &LoadTables::SetSettlement>},
-    MovedLoads<CBeamLoad>{&CZelData::BeamLoad, &CZelData::DeleteBeamLoad,
-                          &Plain<CBeamLoad, &LoadTables::SetBeamLoad>},
+                          &CZelData::SetSettlement},
+    MovedLoads<CBeamLoad>{&CZelData::BeamLoad, &CZelData::DeleteBeamLoad, &CZelData::SetBeamLoad},
     MovedLoads<CAxialLoad>{&CZelData::AxialLoad, &CZelData::DeleteAxialLoad,
-                           &Plain<CAxialLoad, &LoadTables::SetAxialLoad>},
-    MovedLoads<CBeamDist>{&CZelData::BeamDist, &CZelData::DeleteBeamDist,
-                          &Plain<CBeamDist, &LoadTables::SetBeamDist>},
+                           &CZelData::SetAxialLoad},
+    MovedLoads<CBeamDist>{&CZelData::BeamDist, &CZelData::DeleteBeamDist, &CZelData::SetBeamDist},
     MovedLoads<CBeamThermalLoad>{&CZelData::BeamThermalLoad, &CZelData::DeleteBeamThermalLoad,
-                                 &Plain<CBeamThermalLoad, &LoadTables::SetBeamThermalLoad>},
-    MovedLoads<CFaceLoad>{&CZelData::FaceLoad, &CZelData::DeleteFaceLoad,
-                          [](CZelData& model, int n, CFaceLoad const& load) {
-                            model.SetFaceLoad(n, load, true, SidMode::Keep);
-                          }},
-    MovedLoads<CEdgeLoad>{&CZelData::EdgeLoad, &CZelData::DeleteEdgeLoad,
-                          &Plain<CEdgeLoad, &LoadTables::SetEdgeLoad>},
+                                 &CZelData::SetBeamThermalLoad},
+    MovedLoads<CFaceLoad>{&CZelData::FaceLoad, &CZelData::DeleteFaceLoad, nullptr,
+                          &CZelData::SetFaceLoad},
+    MovedLoads<CEdgeLoad>{&CZelData::EdgeLoad, &CZelData::DeleteEdgeLoad, &CZelData::SetEdgeLoad},
     MovedLoads<CInPlaneLoad>{&CZelData::InPlaneLoad, &CZelData::DeleteInPlaneLoad,
-                             &Plain<CInPlaneLoad, &LoadTables::SetInPlaneLoad>},
+                             &CZelData::SetInPlaneLoad},
     MovedLoads<CFaceThermalLoad>{&CZelData::FaceThermalLoad, &CZelData::DeleteFaceThermalLoad,
-                                 &Plain<CFaceThermalLoad, &LoadTables::SetFaceThermalLoad>},
-    MovedLoads<CGridPointLoad>{&CZelData::GridPointLoad, &CZelData::DeleteGridPointLoad,
-                               [](CZelData& model, int n, CGridPointLoad const& load) {
-                                 model.SetGridPointLoad(n, load, true, SidMode::Keep);
-                               }},
-    MovedLoads<CGridLineLoad>{&CZelData::GridLineLoad, &CZelData::DeleteGridLineLoad,
-                              [](CZelData& model, int n, CGridLineLoad const& load) {
-                                model.SetGridLineLoad(n, load, true, SidMode::Keep);
-                              }},
-    MovedLoads<CGridAreaLoad>{&CZelData::GridAreaLoad, &CZelData::DeleteGridAreaLoad,
-                              [](CZelData& model, int n, CGridAreaLoad const& load) {
-                                model.SetGridAreaLoad(n, load, true, SidMode::Keep);
-                              }},
+                                 &CZelData::SetFaceThermalLoad},
+    MovedLoads<CGridPointLoad>{&CZelData::GridPointLoad, &CZelData::DeleteGridPointLoad, nullptr,
+                               &CZelData::SetGridPointLoad},
+    MovedLoads<CGridLineLoad>{&CZelData::GridLineLoad, &CZelData::DeleteGridLineLoad, nullptr,
+                              &CZelData::SetGridLineLoad},
+    MovedLoads<CGridAreaLoad>{&CZelData::GridAreaLoad, &CZelData::DeleteGridAreaLoad, nullptr,
+                              &CZelData::SetGridAreaLoad},
     MovedLoads<CGravityLoad>{&CZelData::GravityLoad, &CZelData::DeleteGravityLoad,
-                             &Plain<CGravityLoad, &LoadTables::SetGravityLoad>});
+                             &CZelData::SetGravityLoad});
 
 }  // namespace
 
 bool MoveLoads(RenumberRun const& run) {
   bool any = false;
-  kMovedLoads.ForEach([&](auto const& table) { any = MoveTable(run, table) || any; });
+  kMovedLoads.ForEach([&](auto const& table) { any = MoveLoadTable(run, table) || any; });
   return any;
 }
 

@@ -1,4 +1,4 @@
-// The children of members, which are part of the members' records, on the move.
+// The children and meshes of members, which belong to the members' records, on the move.
 #include <algorithm>
 #include <map>
 
@@ -55,6 +55,22 @@ void MoveChildren(RenumberRun const& run) {
     copy.ClearChildElements();
     for (auto const& replica : joined)
       for (int const child : replica.elements) copy.AppendChildElement(child, replica.replica);
+    run.model.SetMember(number, copy, SidMode::Keep);
+  }
+}
+
+void MoveMeshes(RenumberRun const& run) {
+  if (run.refOnly || !run.Has(CModule::Member)) return;
+  auto const& members = run.before.Member();
+  std::map<int, int> stored;  // by new number the member whose record stands there
+  for (int old = members.Next(0); old != 0; old = members.Next(old))
+    if (int const number = run.Map(CModule::Member, old); number != 0) stored[number] = old;
+  for (auto const& [number, old] : stored) {
+    if (number == old) continue;
+    auto mesh = members.Find(old)->AnalysisMesh();
+    if (mesh.Replicas().empty()) continue;
+    auto copy = run.model.Member(number);
+    copy.SetAnalysisMesh(std::move(mesh));
     run.model.SetMember(number, copy, SidMode::Keep);
   }
 }

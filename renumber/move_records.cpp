@@ -11,17 +11,15 @@ namespace {
 
 using Id = CModule::ModuleId;
 
-/// Whether a scheme keeps every record of a table under its number.
-bool KeepsAll(NumberScheme const& scheme, int highest, auto&& exist) {
-  int next = 1;
-  bool keeps = true;
-  scheme.ForEach([&](int old, int number) {
-    for (; keeps && next < old; ++next) keeps = !exist(next);
-    next = old + 1;
-    keeps = keeps && (old == number || !exist(old));
-  });
-  for (; keeps && next <= highest; ++next) keeps = !exist(next);
-  return keeps;
+/// Whether a scheme keeps every record of some tables under its number.
+template <class... Tables>
+bool KeepsAll(NumberScheme const& scheme, Tables const&... tables) {
+  auto const keeps = [&](auto const& table) {
+    for (int n = table.Next(0); n != 0; n = table.Next(n))
+      if (scheme.Map(n) != n) return false;
+    return true;
+  };
+  return (keeps(tables) && ...);
 }
 
 /// Clears a table and stores its records under their new numbers.
@@ -59,10 +57,9 @@ void MoveGridSurfaces(RenumberRun const& run, Id module) {
 void MoveNodes(RenumberRun const& run, Id module) {
   auto const& scheme = *run.schemes.Find(module);
   auto const& before = run.before;
-  int const highest = run.model.HighestNode();
-  if (KeepsAll(scheme, highest, [&](int n) { return before.NodeExist(n); })) return;
-  run.model.BlankNode(1, highest);
   auto const& nodes = before.Node();
+  if (KeepsAll(scheme, nodes)) return;
+  run.model.BlankNode(1, run.model.HighestNode());
   scheme.ForEach([&](int old, int number) {
     auto const* const node = nodes.Find(old);
     if (number == 0 || node == nullptr) return;
@@ -74,13 +71,12 @@ void MoveNodes(RenumberRun const& run, Id module) {
 void MoveElements(RenumberRun const& run, Id module) {
   auto const& scheme = *run.schemes.Find(module);
   auto const& before = run.before;
-  int const highest = run.model.HighestElem();
-  if (KeepsAll(scheme, highest, [&](int n) { return before.VariantElementExist(n); })) return;
-  std::mutex mutex;
-  BulkOperations const bulk(run.model, mutex, {module});
-  run.model.BlankVariantElement(1, highest);
   auto const& elements = before.Elem();
   auto const& panels = before.LoadPanels();
+  if (KeepsAll(scheme, elements, panels)) return;
+  std::mutex mutex;
+  BulkOperations const bulk(run.model, mutex, {module});
+  run.model.BlankVariantElement(1, run.model.HighestElem());
   scheme.ForEach([&](int old, int number) {
     if (number == 0) return;
     if (auto const* const element = elements.Find(old))
@@ -91,10 +87,7 @@ void MoveElements(RenumberRun const& run, Id module) {
 }
 
 void MoveMembers(RenumberRun const& run, Id module) {
-  auto const& before = run.before;
-  int const highest = run.model.HighestMember();
-  auto const exist = [&](int n) { return before.MemberExist(n); };
-  if (!KeepsAll(*run.schemes.Find(module), highest, exist)) MovePlain(run, module);
+  if (!KeepsAll(*run.schemes.Find(module), run.before.Member())) MovePlain(run, module);
 }
 
 /// Dampers are stored over those that are there, and springs are cleared in their place.

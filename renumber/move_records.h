@@ -18,5 +18,7 @@ bool MoveLoads(RenumberRun const& run);
 
 /// Gives members the children of the members that they were, under their new numbers.
 void MoveChildren(RenumberRun const& run);
+/// Gives members that were moved the meshes that they had.
+void MoveMeshes(RenumberRun const& run);
 
 }  // namespace Tarvex

@@ -8,20 +8,21 @@
 namespace Tarvex {
 namespace {
 
-using Id = CModule;
-
 /// Tables whose numbers can be shifted, and kept by a list without a kind.
 constexpr std::array kRenumbered{
-    Id::Axis,           Id::GridPlane,    Id::GridSurface,    Id::Polyline,
-    Id::MatSteel,       Id::MatConcrete,  Id::MatFrp,         Id::MatAluminium,
-    Id::MatTimber,      Id::MatGlass,     Id::MatFabric,      Id::MatRebar,
-    Id::MatAnal,        Id::MatCurve,     Id::MatMatrix,      Id::Section,
-    Id::SpringProp,     Id::MassProp,     Id::Prop2D,         Id::Prop3D,
-    Id::LinkProp,       Id::DamperProp,   Id::CableProp,      Id::SpacerProp,
-    Id::ForceDensity1D, Id::SoapStress1D, Id::ForceDensity2D, Id::SoapStress2D,
-    Id::RC2DProp,       Id::Node,         Id::Member,         Id::Elem,
-    Id::LoadCaseTitle,  Id::AnalStage,    Id::AnalysisTask,   Id::CombinationCase,
-    Id::AnalysisCase};
+    CModule::Axis,           CModule::GridPlane,    CModule::GridSurface,
+    CModule::Polyline,       CModule::MatSteel,     CModule::MatConcrete,
+    CModule::MatFrp,         CModule::MatAluminium, CModule::MatTimber,
+    CModule::MatGlass,       CModule::MatFabric,    CModule::MatRebar,
+    CModule::MatAnal,        CModule::MatCurve,     CModule::MatMatrix,
+    CModule::Section,        CModule::SpringProp,   CModule::MassProp,
+    CModule::Prop2D,         CModule::Prop3D,       CModule::LinkProp,
+    CModule::DamperProp,     CModule::CableProp,    CModule::SpacerProp,
+    CModule::ForceDensity1D, CModule::SoapStress1D, CModule::ForceDensity2D,
+    CModule::SoapStress2D,   CModule::RC2DProp,     CModule::Node,
+    CModule::Member,         CModule::Elem,         CModule::LoadCaseTitle,
+    CModule::AnalStage,      CModule::AnalysisTask, CModule::CombinationCase,
+    CModule::AnalysisCase};
 
 std::vector<int> LoadCaseNumbers(CZelData const& model) {
   std::vector<int> numbers;
@@ -37,9 +38,9 @@ std::vector<int> LoadCaseNumbers(CZelData const& model) {
 }  // namespace
 
 std::vector<int> RecordNumbers(CZelData const& model, CModule::ModuleId module) {
-  if (module == Id::LoadCaseTitle) return LoadCaseNumbers(model);
+  if (module == CModule::LoadCaseTitle) return LoadCaseNumbers(model);
   std::vector<int> numbers;
-  if (module == Id::None) return numbers;
+  if (module == CModule::None) return numbers;
   ForEachTable([&](auto const& row) {
     if (row.module != module) return;
     auto const tables = numbers.size();
@@ -56,7 +57,7 @@ bool IsRenumbered(CModule::ModuleId module) {
 
 std::vector<int> ShiftedNumbers(CZelData const& model, CModule::ModuleId module) {
   if (!IsRenumbered(module)) return {};
-  return RecordNumbers(model, module == Id::MassProp ? Id::Prop2D : module);
+  return RecordNumbers(model, module == CModule::MassProp ? CModule::Prop2D : module);
 }
 
 }  // namespace Tarvex

@@ -61,6 +61,110 @@ TableRow<Record> RowOfTable(tarvex_unordered_map<unsigned int, Record> const& (C
   return row;
 }
 
+/// Rewrites what names materials and properties, kind of record by kind of record.
+template <class NewNumber, class UpdateList>
+class ReferenceTidier {
+ public:
+  ReferenceTidier(CZelData& model, NewNumber const& newNumber, UpdateList const& updateList)
+      : m_model(model), m_newNumber(newNumber), m_updateList(updateList) {}
+
+  void Members() {
+    EachRecord(m_model, RowOfTable<Data::CMember>(&CZelData::Member, &CZelData::SetMember),
+               [&](Data::CMember& member) {
+                 member.SetProperty(m_newNumber(TidiedTable(member), member.Property()));
+               });
+  }
+  void Elements() {
+    auto const& elements = m_model.Elem();
+    for (int n = elements.Next(0); n != 0; n = elements.Next(n)) {
+      auto const& element = *elements.Find(n);
+      int const property = m_newNumber(TidiedTable(element.Type()), element.Property());
+      if (property != element.Property()) m_model.SetElemProperty(n, property);
+    }
+  }
+  void LoadPanels() {
+    EachRecord(m_model, RowOfTable<Data::LoadPanel>(&CZelData::LoadPanels, &CZelData::SetLoadPanel),
+               [&](Data::LoadPanel& panel) {
+                 panel.SetProperty(m_newNumber(CModule::Prop2D, panel.Property()));
+               });
+  }
+  void GridSurfaces() {
+    EachRecord(m_model,
+               RowOfTable<Data::CGridSurface>(&CZelData::GridSurface, &CZelData::SetGridSurface),
+               [&](Data::CGridSurface& surface) {
+                 Update(surface.Elements(), [&](auto const& l) { surface.SetElements(l); });
+               });
+  }
+  void TiedInterfaces() {
+    using Data::CTiedInterface;
+    EachListed(
+        m_model, ListedTable<CTiedInterface>{&CZelData::TiedInterface, &CZelData::SetTiedInterface},
+        [&](CTiedInterface& tied) {
+          bool const primary =
+              Update(tied.PrimaryElements(), [&](auto const& l) { tied.SetPrimaryElements(l); });
+          if (tied.ConstrainedEntities().TypeOf() != SelElement) return primary;
+          return Update(tied.ConstrainedEntities(),
+                        [&](auto const& l) { tied.SetConstrainedEntities(l); }) ||
+                 primary;
+        });
+  }
+  void Loads() {
+    kListedLoads.ForEach([&](auto const& table) {
+      EachListed(m_model, table, [&](auto& load) {
+        return Update(load.LoadedEntities(), [&](auto const& l) { load.SetLoadedEntities(l); });
+      });
+    });
+    EachListed(
+        m_model, ListedTable<Data::CGravityLoad>{&CZelData::GravityLoad, &CZelData::SetGravityLoad},
+        [&](Data::CGravityLoad& load) {
+          bool const entities =
+              Update(load.LoadedEntities(), [&](auto const& l) { load.SetLoadedEntities(l); });
+          return Update(load.LoadedNodes(), [&](auto const& l) { load.SetLoadedNodes(l); }) ||
+                 entities;
+        });
+  }
+  void Stages() {
+    using Prop = Data::CAnalStageProp;
+    using Mat = Data::CAnalStageMat;
+    EachRecord(m_model, RowOfTable<Prop>(&CZelData::AnalStageProp, &CZelData::SetAnalStageProp),
+               [&](Prop& record) {
+                 auto const module = PropertyModule(record.PropType());
+                 record.SetElemProp(m_newNumber(module, record.ElemProp()));
+                 record.SetPropRec(m_newNumber(module, record.PropRec()));
+               });
+    EachRecord(m_model, RowOfTable<Mat>(&CZelData::AnalStageMat, &CZelData::SetAnalStageMat),
+               [&](Mat& record) {
+                 record.SetElemOriginalMat(m_newNumber(CModule::MatAnal, record.ElemOriginalMat()));
+                 record.SetElemStageMat(m_newNumber(CModule::MatAnal, record.ElemStageMat()));
+               });
+  }
+  void SavedListsAndAssemblies() {
+    EachRecord(m_model, RowOfTable<CEntList>(&CZelData::List, &CZelData::SetList),
+               [&](CEntList& list) {
+                 if (IsEntityList(list)) m_updateList(list);
+               });
+    EachRecord(m_model, RowOfTable<Data::CAssembly>(&CZelData::Assembly, &CZelData::SetAssembly),
+               [&](Data::CAssembly& assembly) {
+                 if (IsEntityList(assembly.Entities()))
+                   Update(assembly.Entities(), [&](auto const& l) { assembly.SetEntities(l); });
+               });
+  }
+
+ private:
+  /// Rewrites one list of a record. @return whether it changed.
+  template <class Put>
+  bool Update(CEntList const& stored, Put&& put) {
+    CEntList list(stored);
+    bool const changed = m_updateList(list);
+    if (changed) put(list);
+    return changed;
+  }
+
+  CZelData& m_model;
+  NewNumber const& m_newNumber;
+  UpdateList const& m_updateList;
+};
+
 }  // namespace
 
 bool CUpdateProp::UpdateList(CEntList& list) const {
@@ -79,85 +183,20 @@ bool CUpdateProp::UpdateList(CEntList& list) const {
 }
 
 void CUpdateProp::TidyRef() {
-  auto& model = m_live;
   auto const newNumber = [&](CModule::ModuleId module, int n) {
     auto const numbers = m_maps.find(module);
     return numbers == m_maps.end() ? n : UpdateRef(n, numbers->second);
   };
-  /// Rewrites one list of a record.
-  auto const update = [&](CEntList const& stored, auto&& put) {
-    CEntList list(stored);
-    bool const changed = UpdateList(list);
-    if (changed) put(list);
-    return changed;
-  };
-
-  EachRecord(model, RowOfTable<Data::CMember>(&CZelData::Member, &CZelData::SetMember),
-             [&](Data::CMember& member) {
-               member.SetProperty(newNumber(TidiedTable(member), member.Property()));
-             });
-  auto const& elements = model.Elem();
-  for (int n = elements.Next(0); n != 0; n = elements.Next(n)) {
-    auto const& element = *elements.Find(n);
-    int const property = newNumber(TidiedTable(element.Type()), element.Property());
-    if (property != element.Property()) model.SetElemProperty(n, property);
-  }
-  EachRecord(model, RowOfTable<Data::LoadPanel>(&CZelData::LoadPanels, &CZelData::SetLoadPanel),
-             [&](Data::LoadPanel& panel) {
-               panel.SetProperty(newNumber(CModule::Prop2D, panel.Property()));
-             });
-  EachRecord(model,
-             RowOfTable<Data::CGridSurface>(&CZelData::GridSurface, &CZelData::SetGridSurface),
-             [&](Data::CGridSurface& surface) {
-               update(surface.Elements(), [&](auto const& list) { surface.SetElements(list); });
-             });
-  EachListed(
-      model,
-      ListedTable<Data::CTiedInterface>{&CZelData::TiedInterface, &CZelData::SetTiedInterface},
-      [&](Data::CTiedInterface& tied) {
-        bool changed = update(tied.PrimaryElements(),
-                              [&](auto const& list) { tied.SetPrimaryElements(list); });
-        if (tied.ConstrainedEntities().TypeOf() == SelElement)
-          changed = update(tied.ConstrainedEntities(),
-                           [&](auto const& l) { tied.SetConstrainedEntities(l); }) ||
-                    changed;
-        return changed;
-      });
-  kListedLoads.ForEach([&](auto const& table) {
-    EachListed(model, table, [&](auto& load) {
-      return update(load.LoadedEntities(), [&](auto const& l) { load.SetLoadedEntities(l); });
-    });
-  });
-  EachListed(model,
-             ListedTable<Data::CGravityLoad>{&CZelData::GravityLoad, &CZelData::SetGravityLoad},
-             [&](Data::CGravityLoad& load) {
-               bool const entities =
-                   update(load.LoadedEntities(), [&](auto const& l) { load.SetLoadedEntities(l); });
-               return update(load.LoadedNodes(), [&](auto const& l) { load.SetLoadedNodes(l); }) ||
-                      entities;
-             });
-  EachRecord(
-      model,
-      RowOfTable<Data::CAnalStageProp>(&CZelData::AnalStageProp, &CZelData::SetAnalStageProp),
-      [&](Data::CAnalStageProp& record) {
-        auto const module = PropertyModule(record.PropType());
-        record.SetElemProp(newNumber(module, record.ElemProp()));
-        record.SetPropRec(newNumber(module, record.PropRec()));
-      });
-  EachRecord(model,
-             RowOfTable<Data::CAnalStageMat>(&CZelData::AnalStageMat, &CZelData::SetAnalStageMat),
-             [&](Data::CAnalStageMat& record) {
-               record.SetElemOriginalMat(newNumber(CModule::MatAnal, record.ElemOriginalMat()));
-               record.SetElemStageMat(newNumber(CModule::MatAnal, record.ElemStageMat()));
-             });
-  EachRecord(model, RowOfTable<CEntList>(&CZelData::List, &CZelData::SetList), [&](CEntList& list) {
-    if (IsEntityList(list)) UpdateList(list);
-  });
-  EachRecord(model, RowOfTable<Data::CAssembly>(&CZelData::Assembly, &CZelData::SetAssembly),
-             [&](Data::CAssembly& assembly) {
-               if (IsEntityList(assembly.Entities()))
-                 update(assembly.Entities(), [&](auto const& l) { assembly.SetEntities(l); });
-             });
+  auto const updateList = [&](CEntList& list) { return UpdateList(list); };
+  ReferenceTidier tidier(m_live, newNumber, updateList);
+  tidier.Members();
+  tidier.Elements();
+  tidier.LoadPanels();
+  tidier.GridSurfaces();
+  tidier.TiedInterfaces();
+  tidier.Loads();
+  tidier.Stages();
+  tidier.SavedListsAndAssemblies();
 }
 
 }  // namespace Tarvex

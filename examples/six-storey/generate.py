@@ -9,6 +9,7 @@ point shares its node. Each element is the mesh of one member.
 """
 
 import json
+import re
 import sys
 from collections import namedtuple
 from itertools import pairwise
@@ -52,14 +53,18 @@ ROOF = BASEMENTS + len(TOWER_HEIGHTS)
 # Loads, N, m and K; values of EN 1991-1-1 and -1-3 where the README says so.
 FINISHES, PARTITIONS, OFFICES, ROOF_ACCESS, SNOW = 1500, 2000, 3000, 400, 640
 WIND, SUCTION, WARMING = 800, 400, 15
+ARCHIVE, IMPACT, IMPACT_HEIGHT = 7500, 50000, 0.5
+HIT_COLUMN = 7                      # element of the south-west column of the tower that stands on the ground
 CHILLER, PLANT, PARAPET = 20000, 2500, 3000
 # Ordinates of the elastic spectrum of EN 1998-1, 3.2.2.2 (type 1, ground B: S 1.2, TB 0.15, TC 0.5, TD 2 s).
 GROUND_ACCELERATION = 0.25 * 9.80665                           # m/s2
 SOIL_FACTOR, T_B, T_C, T_D = 1.2, 0.15, 0.5, 2
 LONG_TERM = 3                       # the modulus is divided by this for lasting loads (creep)
+GRADE = {"type": 2, "grade": 1}     # concrete, number 1 of its table
 
 # Numbers of load cases, tasks and cases; the analysis case of a load case has its number.
 DEAD, FINISHED, IMPOSED, IMPOSED_ROOF, WIND_X, WIND_Y, SNOWED, WARMED = range(1, 9)
+ODD_FLOORS, EVEN_FLOORS, ARCHIVES, WIND_BACK_X, WIND_BACK_Y, HIT = range(13, 19)
 STATIC, MODAL, RESPONSE, P_DELTA = 1, 2, 3, 4
 RESPONSE_X, RESPONSE_Y = 11, 12
 
@@ -444,7 +449,7 @@ def storeys():
 
 
 def rectangle_section(n, name, depth, width):
-    component = {"description": f"rectangle {depth} {width}", "materialAnalysis": 1}
+    component = {"description": f"rectangle {depth} {width}", "materialAnalysis": 1, "materialDesign": GRADE}
     return {"n": n, "name": name, "components": [component]}
 
 
@@ -458,11 +463,31 @@ def properties():
                 rectangle_section(P_POST, "Post", POST_SIDE, POST_SIDE)]
     plates = [(P_SLAB, "Slab", SLAB), (P_PODIUM, "Podium slab", PODIUM_SLAB), (P_CANOPY, "Canopy", CANOPY_SLAB),
               (P_WALL, "Wall", CORE_WALL), (P_BASEMENT_WALL, "Basement wall", BASEMENT_WALL)]
-    prop_2d = [{"n": n, "name": name, "materialAnalysis": 1, "thickness": t} for n, name, t in plates]
+    made_of = {"materialAnalysis": 1, "materialDesign": GRADE}
+    prop_2d = [{"n": n, "name": name} | made_of | {"thickness": t} for n, name, t in plates]
     prop_2d.append({"n": P_FACADE, "name": "Facade", "type": LOAD_PANEL})
-    prop_3d = [{"n": P_RAFT, "name": "Raft", "materialAnalysis": 1}]
+    prop_3d = [{"n": P_RAFT, "name": "Raft"} | made_of]
     crept = concrete | {"n": 2, "name": "Concrete, crept", "youngsModulus": YOUNGS_MODULUS / LONG_TERM}
-    return {"MatAnal": [concrete, crept], "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+    elastic = {k: v for k, v in concrete.items() if k not in ("n", "name")}
+    grades = [{"n": 1, "name": "C30/37", "elastic": elastic, "cylinderStrength": 30e6, "cubeStrength": 37e6,
+               "tensileStrength": 2.9e6, "crushingStrain": 0.0035}]
+    bars = [{"n": 1, "name": "B500B", "yieldStrength": 500e6, "ultimateStrength": 540e6, "ultimateStrain": 0.05}]
+    return {"MatConcrete": whole_numbers(grades), "MatRebar": whole_numbers(bars), "MatAnal": [concrete, crept],
+            "Section": sections, "Prop2D": prop_2d, "Prop3D": prop_3d}
+
+
+def whole_numbers(records):
+    return [{k: int(v) if isinstance(v, float) and v == int(v) else v for k, v in r.items()} for r in records]
+
+
+def combinations():
+    """Factors of EN 1990, 6.10 and 6.12b, with the psi factors of offices, snow below 1000 m and wind."""
+    lasting = f"1.35A{DEAD} + 1.35A{FINISHED}"
+    texts = [("Floors, snow with them", f"{lasting} + 1.5A{IMPOSED} + 0.75A{SNOWED}"),
+             ("Wind, floors with it", f"{lasting} + (1.5A{WIND_X} or 1.5A{WIND_Y}) + 1.05A{IMPOSED}"),
+             ("Earthquake", f"A{DEAD} + A{FINISHED} + 0.3A{IMPOSED} + (1 or -1)A{RESPONSE_X} + (0.3 or -0.3)A{RESPONSE_Y}"),
+             ("All", "C1 to C3")]
+    return [{"n": n, "name": name, "description": text} for n, (name, text) in enumerate(texts, 1)]
 
 
 def lists_by(word):
@@ -480,11 +505,16 @@ def corners(x, y):
 
 def load_cases():
     """What each load case is: type of action, source and category."""
-    titles = [("Self weight", 11, {}), ("Finishes and partitions", 11, {}), ("Offices", 31, {"category": 2}),
-              ("Access to the roof", 32, {"category": 8}), ("Wind +x", 33, {}), ("Wind +y", 33, {}), ("Snow", 34, {}),
-              ("Summer", 36, {})]
+    offices, with_offices = {"category": 2}, {"source": IMPOSED}
+    titles = [(DEAD, "Self weight", 11, {}), (FINISHED, "Finishes and partitions", 19, {}),
+              (IMPOSED, "Offices", 31, offices), (IMPOSED_ROOF, "Access to the roof", 32, with_offices | {"category": 8}),
+              (WIND_X, "Wind +x", 33, {}), (WIND_Y, "Wind +y", 33, {}), (SNOWED, "Snow", 34, {}),
+              (WARMED, "Summer", 36, {}), (ODD_FLOORS, "Offices, odd floors", 31, offices),
+              (EVEN_FLOORS, "Offices, even floors", 31, offices),
+              (ARCHIVES, "Archive", 31, with_offices | {"category": 5}), (WIND_BACK_X, "Wind -x", 33, {}),
+              (WIND_BACK_Y, "Wind -y", 33, {}), (HIT, "Impact of a car", 41, {})]
     return [{"n": n, "name": name, "type": kind} | ({"source": n} if n > 1 else {}) | more
-            for n, (name, kind, more) in enumerate(titles, 1)]
+            for n, name, kind, more in titles]
 
 
 def loads():
@@ -497,13 +527,22 @@ def loads():
              face_load(WIND_X, '"West facade"', WIND, direction=1),
              face_load(WIND_X, '"East facade"', SUCTION, direction=1),
              face_load(WIND_Y, '"South facade"', WIND, direction=2),
-             face_load(WIND_Y, '"North facade"', SUCTION, direction=2)]
+             face_load(WIND_Y, '"North facade"', SUCTION, direction=2),
+             face_load(ODD_FLOORS, by("G", *(FLOOR + level for level in range(1, ROOF, 2))), -OFFICES),
+             face_load(EVEN_FLOORS, by("G", *(FLOOR + level for level in range(2, ROOF, 2))), -OFFICES),
+             face_load(ARCHIVES, by("G", FLOOR + 1), -ARCHIVE),
+             face_load(WIND_BACK_X, '"East facade"', -WIND, direction=1),
+             face_load(WIND_BACK_X, '"West facade"', -SUCTION, direction=1),
+             face_load(WIND_BACK_Y, '"North facade"', -WIND, direction=2),
+             face_load(WIND_BACK_Y, '"South facade"', -SUCTION, direction=2)]
     on_roof = {"loadCase": FINISHED, "surface": 1}
     parapet = corners((0, LENGTH), TOWER_Y)
     parapet += parapet[:1]
     return {
         "BeamLoad": [{"loadCase": FINISHED, "loadedEntities": lists_by(f'"Beams" not G{BEAM + ROOF}'),
-                      "value": [-PARTITIONS, 0]}],
+                      "value": [-PARTITIONS, 0]},
+                     {"loadCase": HIT, "loadedEntities": lists_by(str(HIT_COLUMN)), "type": 1, "direction": 1,
+                      "pos": [IMPACT_HEIGHT, 0], "value": [IMPACT, 0]}],
         "BeamThermalLoad": [{"loadCase": WARMED, "loadedEntities": lists_by('"Frame"'),
                              "value": [WARMING, 0]}],
         "FaceLoad": faces,
@@ -559,7 +598,7 @@ def tasks():
              "task": MODAL, "source": 9, "spectrum": [1, 1, 0]},
             {"n": P_DELTA, "class": "CZssTask", "name": "Second order", "solution": 4, "stage": 3, "pDelta": lasting,
              "pDeltaEffects": True}]
-    return {"AnalysisTask": task, "AnalysisCase": cases}
+    return {"AnalysisTask": task, "AnalysisCase": cases, "CombinationCase": combinations()}
 
 
 MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]
@@ -611,12 +650,20 @@ def model():
                 number) | {"LoadCaseTitle": load_cases()} | stages() | tasks()
 
 
+def shortest(whole):
+    """A whole number as model files have it: with an exponent where that is shorter."""
+    digits = whole[0].rstrip("0")
+    mantissa = f"{digits[0]}.{digits[1:]}" if len(digits) > 1 else digits
+    short = f"{mantissa}e+{len(whole[0]) - 1:02}"
+    return min(whole[0], short, key=len)
+
+
 def text():
     units = {"length": "m", "force": "N", "mass": "kg", "time": "s", "temperature": "C", "angle": "deg"}
     head = {"format": "tarvex-model", "version": "1.0", "generator": "six-storey example", "units": units}
     entries = [f"  {json.dumps(k)}: {json.dumps(v)}" for k, v in head.items()]
     for name, records in model().items():
-        lines = ",\n".join("    " + json.dumps(r) for r in records)
+        lines = ",\n".join("    " + re.sub(r"\b\d{6,}\b", shortest, json.dumps(r)) for r in records)
         entries.append(f'  "{name}": [\n{lines}\n  ]')
     return "{\n" + ",\n".join(entries) + "\n}\n"
 

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "store/record/member.h"
 #include "store/record/node.h"
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
@@ -88,6 +89,22 @@ TEST(BulkOperations, GiveTheSameModelAsWithoutThem) {
   }
   EXPECT_TRUE(plain == bulk);
   EXPECT_TRUE(Testing::AttachmentsFollowTopology(bulk));
+}
+
+TEST(BulkOperations, LeaveTheListsOfMembersToTheirTool) {
+  CZelData model;
+  Testing::Grid(model, 2, 1);
+  Data::CMember member;
+  for (int const child : {1, 2}) member.AddChildElement(child, 0);
+  model.SetMember(1, member);
+  std::mutex mutex;
+  {
+    BulkOperations const scope(model, mutex, kElements);
+    model.BlankElem(1, 1);
+    EXPECT_EQ(model.Member(1).NumElem(), 2);
+  }
+  model.BlankElem(2, 1);  // behind the scope an element takes itself off
+  EXPECT_EQ(model.Member(1).NumElem(), 1);
 }
 
 }  // namespace

@@ -288,5 +288,43 @@ TEST(MoveChildren, IsDoneInARunOnReferencesAlone) {
   EXPECT_EQ(model.Member(1).ChildElements(), (Children{{0, {4}}}));
 }
 
+// Meshes of members.
+
+/// A mesh with that many nodes.
+ZEL::ReplicatedMesh MeshOf(std::size_t nodes) {
+  auto mesh = std::make_shared<MemberMesh>();
+  mesh->nodes.resize(nodes);
+  return {{{0, mesh}}, false};
+}
+
+std::size_t NodesOfMesh(CZelData const& model, int member) {
+  auto const mesh = model.Member(member).AnalysisMesh();
+  return mesh.Replicas().empty() ? 0 : mesh.Replicas().at(0)->Nodes().size();
+}
+
+TEST(MoveMeshes, GoWithMembers) {
+  CZelData model;
+  for (int const n : {1, 2, 3}) {
+    Data::CMember member;
+    if (n != 3) member.SetAnalysisMesh(MeshOf(static_cast<std::size_t>(n) * 10));
+    model.SetMember(n, member);
+  }
+  EXPECT_TRUE(Apply(model, CModule::Member, {{1, 2}, {2, 1}, {3, 3}}));
+  EXPECT_EQ(NodesOfMesh(model, 1), 20u);
+  EXPECT_EQ(NodesOfMesh(model, 2), 10u);
+  EXPECT_EQ(NodesOfMesh(model, 3), 0u);
+}
+
+TEST(MoveMeshes, OfMembersThatBecomeOneIsThatOfTheRecordThatStays) {
+  CZelData model;
+  for (int const n : {1, 2}) {
+    Data::CMember member;
+    if (n == 1) member.SetAnalysisMesh(MeshOf(10));
+    model.SetMember(n, member);
+  }
+  EXPECT_TRUE(Apply(model, CModule::Member, {{1, 3}, {2, 3}}));
+  EXPECT_EQ(NodesOfMesh(model, 3), 0u);
+}
+
 }  // namespace
 }  // namespace Tarvex::MoveRecordsTest

@@ -89,6 +89,8 @@ struct CommandResult {
   std::vector<Undone> undone;
   std::vector<Warning> warnings;
   std::vector<ToleranceUsed> tolerances;
+  /// By table the records that moved: old number and new one, 0 for one that went.
+  std::map<std::string, std::vector<std::pair<int, int>>> maps;
   /// What this command alone has; for a command that changes nothing, all of its data.
   std::shared_ptr<nlohmann::ordered_json const> result;
   /// The data of each command that this one ran, for a recipe.

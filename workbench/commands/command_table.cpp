@@ -1,3 +1,6 @@
+#include <array>
+
+#include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
@@ -5,16 +8,29 @@
 #include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/references.h"
+#include "workbench/commands/renumber.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/split_connect.h"
+#include "workbench/commands/tidy.h"
+#include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
+/// The commands of each family, in the order of help.
+constexpr std::array kFamilies{
+    &InspectCommands,      &TotalsCommands,   &SelectionCommands, &PictureCommands,
+    &OrientationCommands,  &RenumberCommands, &TidyCommands,      &ReferenceUpdateCommands,
+    &SplitConnectCommands, &CombineCommands,  &RecipeCommands,    &ReferenceCommands,
+};
+
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& commands : kFamilies) {
+    auto const family = commands();
     table.insert(table.end(), family.begin(), family.end());
+  }
   return table;
 }
 

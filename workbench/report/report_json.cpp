@@ -14,6 +14,15 @@ Json Undones(std::vector<Undone> const& undone) {
   return json;
 }
 
+Json Maps(std::map<std::string, std::vector<std::pair<int, int>>> const& maps) {
+  Json json = Json::object();
+  for (auto const& [table, moves] : maps) {
+    auto& rows = json[table] = Json::array();
+    for (auto const& [old, number] : moves) rows.push_back({old, number});
+  }
+  return json;
+}
+
 Json Tolerances(std::vector<ToleranceUsed> const& tolerances) {
   Json json = Json::array();
   for (auto const& item : tolerances)
@@ -64,12 +73,14 @@ Json DataJson(Report const& report) {
             {"dryRun", report.dryRun},
             {"did", result.did},
             {"changes", ChangesJson(report.changes)},
-            {"maps", Json::object()},
+            {"maps", Maps(result.maps)},
             {"messages", result.messages},
             {"undone", Undones(result.undone)},
-            {"totals", Json::array()},
+            {"totals", TotalChangesJson(report.totals)},
             {"tolerances", Tolerances(result.tolerances)},
             {"result", own}};
+  if (auto const& mass = report.totals.mass)
+    json["mass"] = {{"before", mass->first}, {"after", mass->second}};
   if (result.steps != nullptr) json["steps"] = *result.steps;
   return json;
 }

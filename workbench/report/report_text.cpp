@@ -20,7 +20,7 @@ std::string ChangeLine(std::string_view table, char const* what, std::vector<int
                        bool verbose) {
   if (numbers.empty()) return {};
   if (numbers == std::vector{0}) return "  " + std::string(table) + " " + what + "\n";
-  return "  " + Padded(std::string(table), 10) + what + " " + std::to_string(numbers.size()) +
+  return "  " + Padded(std::string(table) + " ", 10) + what + " " + std::to_string(numbers.size()) +
          ": " + Numbers(numbers, verbose) + "\n";
 }
 
@@ -58,6 +58,7 @@ std::string ReportText(Report const& report, bool verbose) {
   text += ChangesText(report.changes, verbose);
   for (auto const& message : result.messages) text += "  " + message + "\n";
   text += UndoneLines(result.undone, verbose);
+  text += TotalChangesText(report.totals);
   for (auto const& tolerance : result.tolerances)
     text += "  " + tolerance.name + " " + NumberText(tolerance.value) + " " + tolerance.unit + "\n";
   return text + written;

@@ -3,6 +3,7 @@
 
 #include <map>
 
+#include "store/calc/load_totals.h"
 #include "store/model/analysis_case_table.h"
 #include "store/model/list_expansion.h"
 #include "store/model/zel_data.h"
@@ -14,6 +15,7 @@
 #include "store/record/res_spectrum.h"
 #include "store/record/rigid.h"
 #include "store/record/task_slot.h"
+#include "tests/support/matchers.h"
 #include "workbench/file/model_reader.h"
 #include "workbench/report/integrity.h"
 
@@ -131,15 +133,21 @@ TEST(SixStorey, NamesNothingThatIsMissing) {
   EXPECT_TRUE(Workbench::FindFaults(Building()).empty());
 }
 
-TEST(SixStorey, HasEightLoadCasesWithTheirActions) {
+TEST(SixStorey, HasLoadCasesWithTheirActions) {
   EXPECT_EQ(Building().LoadCaseTypes(), (std::map<int, CaseType>{{1, CaseType::SelfWeight},
-                                                                 {2, CaseType::SelfWeight},
+                                                                 {2, CaseType::PermanentEquivalent},
                                                                  {3, CaseType::Imposed},
                                                                  {4, CaseType::ImposedRoof},
                                                                  {5, CaseType::Wind},
                                                                  {6, CaseType::Wind},
                                                                  {7, CaseType::Snow},
-                                                                 {8, CaseType::Thermal}}));
+                                                                 {8, CaseType::Thermal},
+                                                                 {13, CaseType::Imposed},
+                                                                 {14, CaseType::Imposed},
+                                                                 {15, CaseType::Imposed},
+                                                                 {16, CaseType::Wind},
+                                                                 {17, CaseType::Wind},
+                                                                 {18, CaseType::Accidental}}));
 }
 
 /// Area of the 2D elements and panels that the face loads of a load case act on.
@@ -164,6 +172,49 @@ TEST(SixStorey, LoadsTheAreasThatItsPageSays) {
   // each short side, over 19 m.
   EXPECT_NEAR(LoadedArea(model, 5), 2 * (14 - 4) * 19, 1e-9);
   EXPECT_NEAR(LoadedArea(model, 6), 2 * (30 - 6) * 19, 1e-9);
+}
+
+TEST(SixStorey, CarriesWhatItsAreasTimesTheirLoadsComeTo) {
+  auto const totals = SumLoads(Building());
+  EXPECT_TRUE(totals.uncounted.empty());
+  auto const near = [&](int loadCase, Vec3<double> const& force) {
+    EXPECT_TRUE(Testing::IsNear(totals.byCase.at(loadCase).force, force, 0.01)) << loadCase;
+  };
+  // Offices: two floors of 30 x 21 and five of 30 x 14, each less a stair (4 + 1) / 2 x 2 and a
+  // lift 2 x 1.5.
+  near(3, {0, 0, -3000.0 * (2 * 630 + 5 * 420 - 7 * (5 + 3))});
+  near(4, {0, 0, -400.0 * 420});
+  // The canopy is 10 x 7.5 less four corners of 2 x 1.75 / 2.
+  near(7, {0, 0, -640.0 * (420 + 75 - 7)});
+  // Facades of 19 m without their wall in the middle: 14 - 4 and 30 - 6 wide.
+  near(5, {(800.0 + 400) * 10 * 19, 0, 0});
+  near(6, {0, (800.0 + 400) * 24 * 19, 0});
+  near(8, {});
+  // Odd floors: one of 30 x 21 and three of 30 x 14; even ones: one and two.
+  near(13, {0, 0, -3000.0 * (630 + 3 * 420 - 4 * (5 + 3))});
+  near(14, {0, 0, -3000.0 * (630 + 2 * 420 - 3 * (5 + 3))});
+  near(15, {0, 0, -7500.0 * (630 - (5 + 3))});
+  near(16, {-(800.0 + 400) * 10 * 19, 0, 0});
+  near(17, {0, -(800.0 + 400) * 24 * 19, 0});
+  // 0.5 m above the ground at (0, 3.5).
+  near(18, {50000, 0, 0});
+  EXPECT_TRUE(Testing::IsNear(totals.byCase.at(18).moment, {0, 25000, -175000}, 0.01));
+}
+
+TEST(SixStorey, HasCombinationsOfWhatItAnalyses) {
+  auto const model = Building();
+  auto const count = [&](int n) {
+    return model.CombinationCase(n).Description().NumPermutation(model);
+  };
+  EXPECT_EQ(count(1), 1);
+  EXPECT_EQ(count(2), 2);
+  EXPECT_EQ(count(3), 4);
+  EXPECT_EQ(count(4), 7);
+  auto const wind = model.CombinationCase(2).Description();
+  wind.NumPermutation(model);
+  EXPECT_EQ(wind.CaseFactor(2, {CaseOp::Analysis, 6}), 1.5);
+  EXPECT_EQ(wind.CaseFactor(2, {CaseOp::Analysis, 5}), 0);
+  EXPECT_EQ(wind.CaseFactor(2, {CaseOp::Analysis, 3}), 1.05);
 }
 
 TEST(SixStorey, HoldsEachFloorInItsShape) {
@@ -214,7 +265,7 @@ TEST(SixStorey, HasTheSpectrumOfTheCode) {
 TEST(SixStorey, HasATaskForEachOfItsAnalyses) {
   auto const model = Building();
   EXPECT_TRUE(model.AnalysisTask(1).IsStatic());
-  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 8u);
+  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 14u);
   EXPECT_TRUE(model.AnalysisTask(2).IsEigenDynamic());
   EXPECT_TRUE(model.AnalysisTask(3).IsResponseSpectrum());
   EXPECT_TRUE(model.AnalysisTask(4).IsPDelta());

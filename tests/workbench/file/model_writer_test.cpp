@@ -64,7 +64,15 @@ TEST(WriteModelText, PutsOneRecordALineInAscendingNumber) {
 TEST(WriteModelText, GivesBackTheExampleButForItsGenerator) {
   auto const example = Contents(TARVEX_SOURCE_DIR "/examples/six-storey/six-storey.json");
   ASSERT_FALSE(example.empty());
-  EXPECT_EQ(WithoutGenerator(WriteModelText(Read(example))), WithoutGenerator(example));
+  std::istringstream wanted(WithoutGenerator(example));
+  std::istringstream written(WithoutGenerator(WriteModelText(Read(example))));
+  std::string line;
+  std::string other;
+  while (std::getline(wanted, line)) {
+    ASSERT_TRUE(std::getline(written, other));
+    ASSERT_EQ(other, line);
+  }
+  EXPECT_FALSE(std::getline(written, other));
 }
 
 TEST(WriteModelText, ReadsBackAsTheSameModelAndText) {

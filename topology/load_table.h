@@ -1,0 +1,115 @@
+// Tables of loads on entities by the class of their records, so that what is alike in all mappings
+// is written once.
+#pragma once
+
+#include <cmath>
+#include <functional>
+#include <optional>
+
+#include "store/model/list_expansion.h"
+#include "store/model/zel_data.h"
+#include "store/record/beam_loads.h"
+#include "store/record/body_loads.h"
+#include "store/record/element.h"
+#include "store/record/face_loads.h"
+#include "store/record/node.h"
+
+namespace Tarvex {
+
+/// The operations of one table.
+template <
+    class Record, Record const& (LoadTables::*read)(int) const, int (LoadTables::*highest)() const,
+    void (LoadTables::*write)(int, Record const&, SidMode), void (LoadTables::*remove)(int, int)>
+struct LoadTable {
+  static int Highest(CZelData const& model) { return std::invoke(highest, model); }
+  static Record const& Read(CZelData const& model, int n) { return std::invoke(read, model, n); }
+  static void Write(CZelData& model, int n, Record const& load) {
+    std::invoke(write, model, n, load, SidMode::Keep);
+  }
+  static void Delete(CZelData& model, int n) { std::invoke(remove, model, n, 1); }
+
+  /// Whether a load is on an element.
+  static bool IsOn(CZelData const& model, int n, int element) {
+    auto const& list = Read(model, n).LoadedEntities();
+    return Util::IsItemIncluded(list, {SelElement, element}, model, -1, false);
+  }
+  /// Appends a load, on one element and nothing else.
+  static void AppendOn(CZelData& model, int element, Record load) {
+    Data::CEntList list(SelElement, L"");
+    list.AddTo(element);
+    load.SetLoadedEntities(list);
+    Write(model, Highest(model) + 1, load);
+  }
+  /// Adds an entity to those of a load.
+  static void AddTo(CZelData& model, int n, int entity) {
+    auto load = Read(model, n);
+    Data::CEntList list(load.LoadedEntities());
+    list.AddTo(entity);
+    load.SetLoadedEntities(list);
+    Write(model, n, load);
+  }
+  /// Takes an entity off a load. @return whether the load has gone, as it is on nothing any more.
+  static bool TakeOff(CZelData& model, int n, int entity) {
+    auto load = Read(model, n);
+    Data::CEntList list(load.LoadedEntities());
+    Util::Delete(list, entity, model);
+    bool const goes = Util::NumItem(list, model, -1, false) < 1;
+    if (goes) {
+      Delete(model, n);
+    } else {
+      load.SetLoadedEntities(list);
+      Write(model, n, load);
+    }
+    return goes;
+  }
+};
+
+using BeamLoads = LoadTable<Data::CBeamLoad, &CZelData::BeamLoad, &CZelData::HighestBeamLoad,
+                            &CZelData::SetBeamLoad, &CZelData::DeleteBeamLoad>;
+using BeamDists = LoadTable<Data::CBeamDist, &CZelData::BeamDist, &CZelData::HighestBeamDist,
+                            &CZelData::SetBeamDist, &CZelData::DeleteBeamDist>;
+using EdgeLoads = LoadTable<Data::CEdgeLoad, &CZelData::EdgeLoad, &CZelData::HighestEdgeLoad,
+                            &CZelData::SetEdgeLoad, &CZelData::DeleteEdgeLoad>;
+using FaceLoads = LoadTable<Data::CFaceLoad, &CZelData::FaceLoad, &CZelData::HighestFaceLoad,
+                            &CZelData::SetFaceLoad, &CZelData::DeleteFaceLoad>;
+using FaceThermalLoads =
+    LoadTable<Data::CFaceThermalLoad, &CZelData::FaceThermalLoad, &CZelData::HighestFaceThermalLoad,
+              &CZelData::SetFaceThermalLoad, &CZelData::DeleteFaceThermalLoad>;
+using BodyFaceLoads =
+    LoadTable<Data::CBodyFaceLoad, &CZelData::BodyFaceLoad, &CZelData::HighestBodyFaceLoad,
+              &CZelData::SetBodyFaceLoad, &CZelData::DeleteBodyFaceLoad>;
+using BodyThermalLoads =
+    LoadTable<Data::CBodyThermalLoad, &CZelData::BodyThermalLoad, &CZelData::HighestBodyThermalLoad,
+              &CZelData::SetBodyThermalLoad, &CZelData::DeleteBodyThermalLoad>;
+
+/// Whether the first so many values of a load are finite.
+template <class Load>
+bool HasFiniteValues(Load const& load, int count) {
+  for (int i = 0; i < count; ++i)
+    if (!std::isfinite(load.Value(i))) return false;
+  return true;
+}
+
+/// Position of a node; empty when there is no such node or its place is not finite.
+inline std::optional<Vec3<double>> FinitePosition(CZelData const& model, int node) {
+  if (!model.NodeExist(node)) return std::nullopt;
+  auto const& at = model.NodeCoor(node);
+  bool const finite = std::isfinite(at.x) && std::isfinite(at.y) && std::isfinite(at.z);
+  return finite ? std::optional(at) : std::nullopt;
+}
+
+/// Whether an element exists and all its nodes do, at finite places.
+inline bool HasFiniteNodes(CZelData const& model, int element) {
+  if (!model.ElemExist(element) || model.Elem(element).NumTopo() == 0) return false;
+  for (int const node : model.Elem(element).Topology())
+    if (!FinitePosition(model, node)) return false;
+  return true;
+}
+
+/// Corners of a plate: all nodes, or the first half where there are more than four.
+inline int NumCorner(Data::CElement const& element) {
+  int const nodes = element.NumTopo();
+  return nodes > 4 ? nodes / 2 : nodes;
+}
+
+}  // namespace Tarvex

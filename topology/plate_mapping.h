@@ -1,0 +1,60 @@
+// What the mappings of loads on plates and solids have in common.
+#pragma once
+
+#include <unordered_set>
+#include <vector>
+
+#include "store/model/undo_step.h"
+#include "tarvex/data_mgr.h"
+#include "topology/load_table.h"
+
+namespace Tarvex {
+
+/// Maps the loads of a table pair by pair of parent and piece, as one undo step: all pieces of a
+/// parent, then the parent comes off. @return whether all calls of map(parent, piece) were true.
+template <class Wanted, class Map, class TakeOff>
+bool MapByPair(CZelData& model, CDataMgr::NumberLists const& pieces, Wanted&& wanted, Map&& map,
+               TakeOff&& takeOff) {
+  CUndoStep step(model, false);
+  bool all = true;
+  for (auto const& [parent, subs] : pieces) {
+    if (!wanted(parent, subs)) continue;
+    for (int const sub : subs)
+      if (!map(parent, sub)) all = false;
+    takeOff(parent);
+  }
+  step.Accept();
+  return all;
+}
+
+/// Takes an element off the loads of a table. Lists for which isIndirect(list) holds stay.
+template <class Table, class IsIndirect>
+void TakeElementOff(CZelData& model, int element, IsIndirect&& isIndirect) {
+  for (int n = Table::Highest(model); n >= 1; --n)
+    if (Table::IsOn(model, n, element) && !isIndirect(Table::Read(model, n).LoadedEntities()))
+      Table::TakeOff(model, n, element);
+}
+
+/// The elements that the loads of a table are on. @param elementsOnly passes lists of other kinds
+/// over.
+template <class Table>
+std::unordered_set<int> LoadedNumbers(CZelData const& model, bool elementsOnly) {
+  std::unordered_set<int> numbers;
+  for (int n = 1; n <= Table::Highest(model); ++n) {
+    auto const& list = Table::Read(model, n).LoadedEntities();
+    if (elementsOnly && list.TypeOf() != SelElement) continue;
+    for (int const number : Util::Item(list, model)) numbers.insert(number);
+  }
+  return numbers;
+}
+
+/// Positions of the first so many nodes of an element in a frame; all of them exist.
+inline std::vector<Vec3<double>> LocalNodes(CZelData const& model, int element, int count,
+                                            Util::CDirCos const& frame) {
+  std::vector<Vec3<double>> points;
+  for (int i = 0; i < count; ++i)
+    points.push_back(frame.GtoL(model.NodeCoor(model.Elem(element).Topo(i))));
+  return points;
+}
+
+}  // namespace Tarvex
