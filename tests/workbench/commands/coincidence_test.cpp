@@ -86,8 +86,9 @@ TEST_F(CoincidenceCommand, MergeNodesTakesWhatTheNodeThatStaysGets) {
 }
 
 TEST_F(CoincidenceCommand, MergeNodesWarnsOfChainsAndOfElementsThatLoseTheirLength) {
-  // Of 7 and 8 each is within 1.5 of a node that ends at 1: 7 at 1, 5 and 6 at 1.414 from 7 and 8.
-  auto const data = Change({"merge-nodes", "--tolerance", "1.5", "--list", "1 to 8"});
+  // 8 is 2 from 7 and 7 is 1 from 1: beam 4, from 7 to 8, ends twice at 1, 3 from where 8 was.
+  auto const data = Change({"merge-nodes", "--tolerance", "2.1", "--list", "1 7 8", "--with", "1"});
+  EXPECT_EQ(data.at("maps"), Json::parse(R"({"Node": [[7, 1], [8, 1]]})"));
   EXPECT_EQ(data.at("did"), true);
   bool chain = false;
   bool repeated = false;
@@ -97,6 +98,7 @@ TEST_F(CoincidenceCommand, MergeNodesWarnsOfChainsAndOfElementsThatLoseTheirLeng
   }
   EXPECT_TRUE(chain);
   EXPECT_TRUE(repeated);
+  ASSERT_EQ(m_warnings.size(), 2);
 }
 
 TEST_F(CoincidenceCommand, JoinNodesPlacesAJointAndReportsWhatIsLeft) {
