@@ -8,7 +8,9 @@
 namespace Tarvex {
 
 NodeCells::NodeCells(std::span<Vec3<double> const> points, double width)
-    : m_width(width), m_heads(std::bit_ceil(points.size() + 1), -1), m_next(points.size(), -1) {
+    : m_width(width),
+      m_heads(std::bit_floor(std::max<std::size_t>(points.size(), 1)), -1),
+      m_next(points.size(), -1) {
   for (std::size_t i = 0; i < points.size(); ++i) {
     if (!IsFinite(points[i])) continue;
     auto& head = m_heads[SlotOf(CellOf(points[i], 0))];

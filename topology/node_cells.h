@@ -9,7 +9,7 @@
 
 namespace Tarvex {
 
-/// A hash of cells that holds the places of points in a row; 8 to 12 bytes a point. The width is
+/// A hash of cells that holds the places of points in a row; at most 8 bytes a point. The width is
 /// that of the questions alone, so that a point far away changes nothing for the others.
 class NodeCells {
  public:

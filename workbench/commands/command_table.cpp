@@ -1,5 +1,6 @@
 #include <array>
 
+#include "workbench/commands/coincidence.h"
 #include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
 #include "workbench/commands/errors.h"
@@ -20,9 +21,10 @@ namespace {
 
 /// The commands of each family, in the order of help.
 constexpr std::array kFamilies{
-    &InspectCommands,      &TotalsCommands,   &SelectionCommands, &PictureCommands,
-    &OrientationCommands,  &RenumberCommands, &TidyCommands,      &ReferenceUpdateCommands,
-    &SplitConnectCommands, &CombineCommands,  &RecipeCommands,    &ReferenceCommands,
+    &InspectCommands,      &TotalsCommands,      &SelectionCommands, &PictureCommands,
+    &OrientationCommands,  &RenumberCommands,    &TidyCommands,      &ReferenceUpdateCommands,
+    &SplitConnectCommands, &CoincidenceCommands, &CombineCommands,   &RecipeCommands,
+    &ReferenceCommands,
 };
 
 std::vector<Command> MakeTable() {
