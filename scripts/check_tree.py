@@ -20,6 +20,7 @@ MAY_INCLUDE = {
     "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
+    "topology": ["store/", "tarvex/", "frame/", "renumber/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.
