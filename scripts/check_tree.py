@@ -20,6 +20,7 @@ MAY_INCLUDE = {
     "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
+    "renumber": ["store/", "tarvex/", "frame/"],
     "topology": ["store/", "tarvex/", "frame/", "renumber/"],
     "workbench": ["store/", "tarvex/"],
 }

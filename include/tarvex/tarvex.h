@@ -1,7 +1,10 @@
 // All tools of the library.
 #pragma once
 
+#include "tarvex/coincidence.h"
 #include "tarvex/connect_slab.h"
 #include "tarvex/disconnect.h"
 #include "tarvex/merge_rigid.h"
 #include "tarvex/orientation.h"
+#include "tarvex/renumber.h"
+#include "tarvex/tidy.h"
