@@ -127,4 +127,15 @@ class TARVEX_EXPORT MemberEdges {
 /// its start. An element that does not exist is std::out_of_range.
 TARVEX_EXPORT std::deque<int> NodesChain(CZelData const& model, std::vector<int> const& elements);
 
+/// Turns blocks into members of their own: for each block of a list, each of its members and each
+/// offset of its replica, a copy of the member on copies of its nodes, moved by the offset. The
+/// blocks are removed. A copy has no elements; the numbers of those whose original has some are
+/// added to `members`, so that they can be given theirs. Orientation nodes stay those of the
+/// original. Then the new nodes are merged with each other and with those that stood there, within
+/// GenTol(Coincidence); a tolerance of 0 leaves them apart. Blocks and members that do not exist
+/// are passed over.
+/// @param blocks a list without a kind, in which "all" goes up to the highest block.
+TARVEX_EXPORT void ExplodeBlocks(CZelData& model, Data::CEntList const& blocks,
+                                 Data::CEntList& members);
+
 }  // namespace Tarvex

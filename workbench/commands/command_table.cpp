@@ -1,4 +1,5 @@
 #include "workbench/commands/command.h"
+#include "workbench/commands/disconnect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
@@ -6,6 +7,7 @@
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/slabs.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -13,8 +15,9 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
+                             PictureCommands(), OrientationCommands(), SlabCommands(),
+                             DisconnectCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }
