@@ -24,6 +24,7 @@ std::map<int, Offsets> TakeBlocks(CZelData& model, Data::CEntList const& blocks)
     auto const& block = model.Block(n);
     auto const places = block.Replica().ExpandedOffsets();
     for (int const member : block.Members()) {
+      if (!model.MemberExist(member)) continue;  // now: a copy may get its number
       auto& offsets = offsetsOf[member];
       offsets.insert(offsets.end(), places.begin(), places.end());
     }
@@ -73,7 +74,6 @@ void MergeNodes(CZelData& model, Util::CSet const& newNodes) {
 void ExplodeBlocks(CZelData& model, Data::CEntList const& blocks, Data::CEntList& members) {
   Util::CSet newNodes(SelNode);
   for (auto const& [number, offsets] : TakeBlocks(model, blocks)) {
-    if (!model.MemberExist(number)) continue;
     auto const source = model.Member(number);
     for (auto const& offset : offsets) CopyMember(model, source, offset, newNodes, members);
   }

@@ -110,7 +110,8 @@ TEST(ConnectionLink, FreeFunctionsWork) {
   Testing::Frame(model, 1, 2);  // columns 1 (1 3), 2 (2 4), 3 (3 5), 4 (4 6)
   EXPECT_EQ(NodesChain(model, {3, 1}), (std::deque<int>{1, 3, 5}));
   Testing::MemberAt(model, MembType::Generic, L"1 3");
-  model.SetBlock(1, Data::CBlock(L"", {1}, Data::CReplica({{1, {6, 0, 0}}})));
+  model.SetBlock(
+      1, Data::CBlock(L"", {1}, Data::CReplica(std::vector{Data::ReplicaStep{1, {6, 0, 0}}})));
   Data::CEntList members(SelMember, L"");
   ExplodeBlocks(model, Data::CEntList(SelNone, L"1"), members);
   EXPECT_EQ(model.Member(2).Topo().String(), L"2 4");
