@@ -92,7 +92,7 @@ bool ConstraintQueries::NodeIsInConstraint(int node, int stage) const {
 bool ConstraintQueries::RigidIsActive(Data::CRigid const& rigid, int stage) const {
   return rigid.TypeOf() != Data::LinkType::Inert && m_model.NodeExist(rigid.PrimaryNode()) &&
          ActsIn(m_model, rigid.Stage(), stage) &&
-         !Util::MakeSet(rigid.ConstrainedNodes(), m_model).IsEmpty();
+         !Util::Item(rigid.ConstrainedNodes(), m_model).IsEmpty();
 }
 
 bool ConstraintQueries::NodeIsUsed(int node) const {

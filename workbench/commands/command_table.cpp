@@ -3,6 +3,7 @@
 #include "workbench/commands/coincidence.h"
 #include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
+#include "workbench/commands/disconnect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
@@ -14,6 +15,7 @@
 #include "workbench/commands/selection.h"
 #include "workbench/commands/split_connect.h"
 #include "workbench/commands/tidy.h"
+#include "workbench/commands/slabs.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -34,6 +36,9 @@ std::vector<Command> MakeTable() {
   for (auto const& family :
        {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
         OrientationCommands(), CombineCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
+                             PictureCommands(), OrientationCommands(), SlabCommands(),
+                             DisconnectCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   }
   return table;

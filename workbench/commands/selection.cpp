@@ -21,16 +21,6 @@ struct KindWord {
 constexpr std::array kKindWords{KindWord{"node", SelNode}, KindWord{"element", SelElement},
                                 KindWord{"member", SelMember}};
 
-CEntList ListOf(SelType kind, std::string const& text) {
-  CEntList list(kind, L"");
-  Data::ListFault fault{};
-  if (!list.SetString(CString::FromUtf8(text), &fault)) {
-    auto place = "--list: character " + std::to_string(fault.position + 1);
-    throw UsageError((place += ": ") += fault.reason.ToUtf8());
-  }
-  return list;
-}
-
 void WarnOfMissingLists(CZelData const& model, CEntList const& list, CommandResult& result) {
   SavedLists saved(model.List(), list.TypeOf());
   auto const reason = " is no saved list of " + SelTypeLabel(list.TypeOf()).ToUtf8() + "s";
@@ -67,6 +57,16 @@ SelType KindOf(std::string_view word) {
   for (auto const& row : kKindWords)
     if (row.word == word) return row.kind;
   return SelNone;
+}
+
+Data::CEntList ListOf(SelType kind, std::string const& text) {
+  Data::CEntList list(kind, L"");
+  Data::ListFault fault{};
+  if (!list.SetString(CString::FromUtf8(text), &fault)) {
+    auto place = "--list: character " + std::to_string(fault.position + 1);
+    throw UsageError((place += ": ") += fault.reason.ToUtf8());
+  }
+  return list;
 }
 
 Util::CSet Select(CZelData const& model, SelType kind, std::string const& listText) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "store/model/zel_data.h"
+#include "store/record/ent_list.h"
 #include "store/select/set.h"
 #include "workbench/commands/command.h"
 
@@ -11,6 +12,9 @@ namespace Tarvex::Workbench {
 
 /// The kind that "node", "element" or "member" names.
 SelType KindOf(std::string_view word);
+
+/// The list of a text. Throws UsageError with place and reason for a text that is no list.
+Data::CEntList ListOf(SelType kind, std::string const& text);
 
 /// The existing entities of a kind that a list text selects; docs/lists.md tells how. Elements
 /// include load panels. Throws UsageError with place and reason for a text that is no list.
