@@ -27,6 +27,21 @@ CaseExpression TreeOf(CString const& text) {
   return ReadCases(text).value_or(CaseExpression{{CasePart{}}, 0, {}});
 }
 
+/// The factors of an alternative, by a resolution or, without one, by the text alone.
+std::map<SCaseRef, double> FactorsOf(CString const& text, CaseResolution const* resolution,
+                                     int permutation) {
+  int const index = permutation - 1;
+  if (resolution != nullptr) {
+    auto const& cases = resolution->cases;
+    return CaseFactors(cases, cases.tree.whole, index, resolution->meaning);
+  }
+  auto tree = ReadCases(text);
+  if (!tree) return {};
+  CasesAsWritten const meaning;
+  auto const cases = CountCases(std::move(*tree), meaning);
+  return CaseFactors(cases, cases.tree.whole, index, meaning);
+}
+
 }  // namespace
 
 CombinationsOfModel::CombinationsOfModel(CZelData const& model, CaseExpression const& from)
@@ -109,6 +124,7 @@ bool CaseResolution::IsOf(CZelData const& of) const {
 int CCombCaseDesc::NumPermutation(CZelData const& model) const {
   auto kept = m_resolution.Get();
   if (kept == nullptr || !kept->IsOf(model)) {
+    m_alternative.Clear();
     m_resolution.Set(CaseResolution(model, Text()));
     kept = m_resolution.Get();
   }
@@ -116,13 +132,13 @@ int CCombCaseDesc::NumPermutation(CZelData const& model) const {
 }
 
 double CCombCaseDesc::CaseFactor(int permutation, SCaseRef const& ref) const {
-  if (auto const kept = m_resolution.Get())
-    return FactorOfCase(kept->cases, kept->cases.tree.whole, permutation - 1, kept->meaning, ref);
-  auto tree = ReadCases(Text());
-  if (!tree) return 0;
-  CasesAsWritten const meaning;
-  auto const cases = CountCases(std::move(*tree), meaning);
-  return FactorOfCase(cases, cases.tree.whole, permutation - 1, meaning, ref);
+  auto last = m_alternative.Get();
+  if (last == nullptr || last->permutation != permutation) {
+    m_alternative.Set({permutation, FactorsOf(Text(), m_resolution.Get().get(), permutation)});
+    last = m_alternative.Get();
+  }
+  auto const found = last->factors.find(SCaseRef(ref.type, ref.num));
+  return found == last->factors.end() ? 0 : found->second;
 }
 
 }  // namespace Tarvex::Data

@@ -43,6 +43,12 @@ class CombinationsOfModel : public CaseMeaning {
 /// Numbers of the combinations of a model that reach themselves, ascending.
 TARVEX_STORE_EXPORT std::vector<int> CombinationsThatReachThemselves(CZelData const& model);
 
+/// The factors of one alternative of a description.
+struct CaseAlternative {
+  int permutation;  ///< from 1
+  std::map<SCaseRef, double> factors;
+};
+
 /// What a description found in a model.
 struct CaseResolution {
   CaseResolution(CZelData const& model, CString const& text);

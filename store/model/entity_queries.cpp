@@ -1,9 +1,10 @@
 #include "store/model/entity_queries.h"
 
-#include "store/geometry/surface_area.h"
+#include "store/geometry/integration.h"
 #include "store/model/entity_geometry.h"
 #include "store/model/member_topology.h"
 #include "store/numeric/element_frame.h"
+#include "store/record/property_type.h"
 
 namespace Tarvex {
 
@@ -47,7 +48,8 @@ double EntityQueries::ElemArea(int n) const {
   Geometry::Topology const topology(m_core.state, ref);
   Geometry::Points const points(m_core.state, topology.Nodes());
   bool const shaped = m_core.state.elem.Exist(n);
-  return shaped ? Util::SurfaceArea(points) : Length(Util::PolygonNormal(points)) / 2;
+  return shaped ? Util::ExtentOf(SpaceType::Surface, points).size
+                : Length(Util::PolygonNormal(points)) / 2;
 }
 
 Vec3<double> EntityQueries::EntCoor(SEntRef ref, int place, EntAt at, CElement::EntBy) const {
@@ -148,14 +150,19 @@ Vec3<double> EntityQueries::EntOffset(SEntRef ref, int end) const {
   return EntDC(ref).LtoG(local);
 }
 
-int EntityQueries::EntProperty(SEntRef ref, int) const {
+int EntityQueries::EntProperty(SEntRef ref, int stage) const {
   auto const& state = m_core.state;
+  auto const staged = [&](CModule::ModuleId table, int property) {
+    return m_core.stageProperties.Property(state, PropertyTypeOf(table), property, stage);
+  };
   if (ref.type == SelElement) {
-    if (auto const* element = state.elem.Find(ref.num)) return element->Property();
-    if (auto const* panel = state.panel.Find(ref.num)) return panel->Property();
+    if (auto const* element = state.elem.Find(ref.num))
+      return staged(element->Shape().property, element->Property());
+    if (auto const* panel = state.panel.Find(ref.num))
+      return staged(CModule::Prop2D, panel->Property());
   }
   auto const* member = ref.type == SelMember ? state.member.Find(ref.num) : nullptr;
-  return member == nullptr ? 0 : member->Property();
+  return member == nullptr ? 0 : staged(member->PropertyTable(), member->Property());
 }
 
 int EntityQueries::ElemMember(int n) const {

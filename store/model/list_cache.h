@@ -17,7 +17,7 @@ namespace Tarvex {
 
 /// What an expansion is made of beside the words: two with equal marks are equal.
 struct ListSources {
-  std::array<std::uint64_t, 8> marks{};
+  std::array<std::uint64_t, 10> marks{};
   friend bool operator==(ListSources const&, ListSources const&) = default;
 };
 
@@ -26,6 +26,7 @@ struct ListForm {
   SelType kind = SelNone;
   bool panels = false;  ///< whether load panels count as elements
   int highest = 0;      ///< of lists without a kind: what "all" goes up to
+  int stage = 0;        ///< of others: whose properties and materials words mean
 
   friend bool operator==(ListForm const&, ListForm const&) = default;
 };

@@ -113,7 +113,7 @@ Intervals ListExpander::All() {
 
 Intervals ListExpander::Word(int token, int number) {
   if (token == Data::kSavedList) return Saved(number);
-  return ListWords::Select(ModelAccess::Core(m_model).state, m_form.kind, token, number);
+  return ListWords::Select(ModelAccess::Core(m_model), m_form.kind, token, number, m_form.stage);
 }
 
 Intervals ListExpander::Saved(int number) {
@@ -158,6 +158,10 @@ ListSources SourcesOf(CZelData const& model, ListForm const& form, int reads) {
     sources.marks[5] = state.section.Revision();
     sources.marks[6] = state.prop2D.Revision();
     sources.marks[7] = state.prop3D.Revision();
+  }
+  if ((reads & kRecords) != 0 && form.stage > 0) {
+    sources.marks[8] = state.analStageProp.Revision();
+    sources.marks[9] = state.analStageMat.Revision();
   }
   return sources;
 }

@@ -19,7 +19,7 @@ constexpr std::size_t kFewWords = 16;
 ListForm FormOf(CEntList const& list, CZelData const& model, int highest, bool panels) {
   bool const untyped = list.TypeOf() == SelNone;
   if (untyped && highest == -1) highest = model.HighestRecord(CModule::AnalStage);
-  return {list.TypeOf(), panels, untyped ? highest : 0};
+  return {list.TypeOf(), panels, untyped ? highest : 0, untyped ? 0 : std::max(highest, 0)};
 }
 
 /// Expands a list, or takes what the model keeps of it.
@@ -111,10 +111,10 @@ bool Replace(CEntList& list, std::map<int, std::vector<int>> const& numbers,
 
 bool ExpandListProp(CEntList& list, CZelData const& model) {
   auto tokens = ListAccess::Text(list).Tokens();
-  auto const& state = ModelAccess::Core(model).state;
+  auto& core = ModelAccess::Core(model);
   auto const expand = [&](int token, int number) -> std::optional<Intervals> {
     if (!ListWords::IsPropertyWord(token)) return std::nullopt;
-    return ListWords::Select(state, list.TypeOf(), token, number);
+    return ListWords::Select(core, list.TypeOf(), token, number, 0);
   };
   if (!Data::WriteOutWords(tokens, expand)) return false;
   ListAccess::Change(list, std::move(tokens));

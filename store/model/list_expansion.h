@@ -22,7 +22,8 @@ namespace Util {
 // In all of these:
 //   highest  of lists without a kind (stages, properties, storeys): the number up to which "all"
 //   and
-//            "*" go; -1 for the highest stage
+//            "*" go; -1 for the highest stage. Of other lists: the stage whose properties and
+//            materials the words for them mean; -1 and 0 for those of the model
 //   panels   whether load panels count as elements
 // Lists of cases select cases, whether they exist or not.
 

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <ranges>
 
+#include "store/record/property_type.h"
+
 namespace Tarvex::ListWords {
 namespace {
 
@@ -73,11 +75,25 @@ bool AnyProperty(Record const& record, Test&& test) {
   return any;
 }
 
+/// Properties and materials as they are in a stage.
+struct InStage {
+  ModelCore& core;
+  int stage;
+
+  int Property(CModule::ModuleId table, int property) const {
+    return core.stageProperties.Property(core.state, PropertyTypeOf(table), property, stage);
+  }
+  int Material(CModule::ModuleId table, int material) const {
+    if (table != CModule::MatAnal) return material;
+    return core.stageProperties.Material(core.state, material, stage);
+  }
+};
+
 /// Whether a field of a record refers to a property of a table, or of any for CModule::None.
 template <class Record>
-bool HasProperty(Record const& record, CModule::ModuleId module, int number) {
+bool HasProperty(InStage const& in, Record const& record, CModule::ModuleId module, int number) {
   return AnyProperty(record, [&](CModule::ModuleId table, int property) {
-    return property == number && (module == CModule::None || module == table);
+    return (module == CModule::None || module == table) && in.Property(table, property) == number;
   });
 }
 
@@ -86,18 +102,18 @@ concept DescribedItems = std::ranges::range<Value> && Described<std::ranges::ran
 
 /// Whether a field of a property, or of a part of it, names a material.
 template <class Record>
-bool NamesMaterial(Record const& record, CModule::ModuleId module, int number) {
+bool NamesMaterial(InStage const& in, Record const& record, CModule::ModuleId module, int number) {
   bool names = false;
   ForEachField<Record>([&](auto const& field) {
     using Value = typename std::remove_cvref_t<decltype(field)>::Value;
     auto const& value = record.*field.member;
     if constexpr (std::is_same_v<Value, int>) {
-      bool const named = field.target != nullptr && value == number;
-      names = names || (named && field.target(record) == module);
+      if (names || field.target == nullptr || field.target(record) != module) return;
+      names = in.Material(module, value) == number;
     } else if constexpr (DescribedItems<Value>) {
-      for (auto const& part : value) names = names || NamesMaterial(part, module, number);
+      for (auto const& part : value) names = names || NamesMaterial(in, part, module, number);
     } else if constexpr (Described<Value>) {
-      names = names || NamesMaterial(value, module, number);
+      names = names || NamesMaterial(in, value, module, number);
     }
   });
   return names;
@@ -113,13 +129,13 @@ void ForEachMadeTable(ModelState const& state, Visit&& visit) {
 
 /// Whether a record refers to a property that is made of a material.
 template <class Record>
-bool HasMaterial(ModelState const& state, Record const& record, CModule::ModuleId module,
-                 int number) {
+bool HasMaterial(InStage const& in, Record const& record, CModule::ModuleId module, int number) {
   return AnyProperty(record, [&](CModule::ModuleId target, int property) {
     bool made = false;
-    ForEachMadeTable(state, [&](CModule::ModuleId candidate, auto const& table) {
-      auto const* found = candidate == target ? table.Find(property) : nullptr;
-      made = made || (found != nullptr && NamesMaterial(*found, module, number));
+    ForEachMadeTable(in.core.state, [&](CModule::ModuleId candidate, auto const& table) {
+      if (made || candidate != target) return;
+      auto const* found = table.Find(in.Property(target, property));
+      made = found != nullptr && NamesMaterial(in, *found, module, number);
     });
     return made;
   });
@@ -193,16 +209,17 @@ bool IsPropertyWord(int token) {
   return row != nullptr && row->rule == Rule::Property;
 }
 
-Intervals Select(ModelState const& state, SelType kind, int token, int number) {
+Intervals Select(ModelCore& core, SelType kind, int token, int number, int stage) {
+  auto const& state = core.state;
+  InStage const in{core, stage};
   auto const* row = Find(token);
   if (row == nullptr) return {};
   if (row->rule == Rule::Property)
     return Filter(state, kind,
-                  [&](auto const& record) { return HasProperty(record, row->module, number); });
+                  [&](auto const& record) { return HasProperty(in, record, row->module, number); });
   if (row->rule == Rule::Material)
-    return Filter(state, kind, [&](auto const& record) {
-      return HasMaterial(state, record, row->module, number);
-    });
+    return Filter(state, kind,
+                  [&](auto const& record) { return HasMaterial(in, record, row->module, number); });
   if (row->rule == Rule::Coordinates)
     return Filter(state, kind, [place = Place(state, row->axes, number)](auto const& record) {
       return place.Has(record);

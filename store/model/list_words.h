@@ -33,9 +33,9 @@ struct Reads {
 
 Reads ReadsOf(int token);
 
-/// The entities of a kind, load panels among the elements, that a word with its number selects;
-/// none for a word that nothing in the model answers.
-Intervals Select(ModelState const& state, SelType kind, int token, int number);
+/// The entities of a kind, load panels among the elements, that a word with its number selects by
+/// the properties and materials of a stage; none for a word that nothing in the model answers.
+Intervals Select(ModelCore& core, SelType kind, int token, int number, int stage);
 
 /// Whether a word selects by property: P and the words that begin with it.
 bool IsPropertyWord(int token);

@@ -13,11 +13,15 @@ using Data::CMember;
 
 SEntRef MemberRef(int n) { return {SelMember, n}; }
 
-/// A record as it is to stand under a number: children stay with the member that they came from.
+/// A record as it is to stand under a number: children and the mesh stay with the member that they
+/// came from.
 CMember AsStoredUnder(int n, CMember const& member) {
   auto copy = member;
   auto const from = static_cast<int>(member.Number());
-  if (from != 0 && from != n) copy.ClearChildElements();
+  if (from != 0 && from != n) {
+    copy.ClearChildElements();
+    copy.ClearAnalysisMesh();
+  }
   return copy;
 }
 

@@ -12,6 +12,7 @@
 #include "store/model/list_cache.h"
 #include "store/model/load_case_use.h"
 #include "store/model/node_naming.h"
+#include "store/model/stage_properties.h"
 #include "store/model/zel_data.h"
 #include "store/numeric/box.h"
 #include "store/numeric/point_index.h"
@@ -50,6 +51,7 @@
 #include "store/record/prop_3d.h"
 #include "store/record/res_spectrum.h"
 #include "store/record/restraints.h"
+#include "store/record/results.h"
 #include "store/record/rigid.h"
 #include "store/record/section.h"
 #include "store/record/soil.h"
@@ -118,6 +120,8 @@ struct ModelState {
   PagedTable<CDesignTask> designTask;
   PagedTable<Zel::CAnalysisCase> analysisCase;
   PagedTable<Data::CCaseDescription> caseDescription;
+  PagedTable<Data::CElemResult> elemResult;
+  PagedTable<Data::CCaseResult> caseResult;
   PositionalTable<Data::CNodeLoad> nodeLoad;
   PositionalTable<Data::CNodeLoad> appliedDisplacement;
   PositionalTable<Data::CNodeLoad> settlement;
@@ -204,6 +208,9 @@ class ModelCore {
 
   /// Which load cases the loads belong to.
   LoadCaseUse loadCases;
+
+  /// What properties and materials are in stages.
+  StageProperties stageProperties;
 
   /// Where the nodes are; built by the first query and followed from then on.
   std::optional<Util::PointIndex> positions;

@@ -11,6 +11,7 @@
 #include "store/export.h"
 #include "store/model/case_rows.h"
 #include "store/model/positional_rows.h"
+#include "store/model/result_rows.h"
 #include "store/model/table_row.h"
 #include "store/model/zel_data.h"
 #include "store/record/alignment.h"
@@ -227,7 +228,8 @@ inline constexpr auto kSparseTables = MakeRows(
         &CZelData::HighestResSpectrum, &CZelData::SetResSpectrum, &CZelData::BlankResSpectrum});
 
 /// All tables.
-inline constexpr auto kTables = JoinRows(kSparseTables, kPositionalTables, kCaseTables);
+inline constexpr auto kTables =
+    JoinRows(kSparseTables, kPositionalTables, kCaseTables, kResultTables);
 
 }  // namespace Registry
 

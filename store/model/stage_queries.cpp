@@ -16,6 +16,43 @@ bool HoldsElement(CZelData const& model, int element, int stage) {
                               true);
 }
 
+double ValueOf(Data::CMatAnal const* material, MatAnalValue value) {
+  return material == nullptr ? 0 : material->Value(value);
+}
+
+/// @param materialOf the analysis material of a component, null where there is none
+template <class MaterialOf>
+Data::CPropBeam BeamOf(Data::CSection const& section, MaterialOf&& materialOf, double position,
+                       bool transformed) {
+  Data::CPropBeam beam;
+  auto const* first = materialOf(0);
+  beam.youngsModulus = ValueOf(first, MatAnalValue::YoungsModulus);
+  beam.density = ValueOf(first, MatAnalValue::Density);
+  beam.additionalMass = section.AdditionalMass();
+  std::vector<double> factors;
+  double mass = 0;
+  double area = 0;
+  bool alike = true;
+  for (int i = 0; i < section.NumComponent(); ++i) {
+    auto const* material = materialOf(i);
+    double const own = section.Component(i).Moments(position).area;
+    double const density = ValueOf(material, MatAnalValue::Density);
+    alike = alike && density == beam.density;
+    mass += own * density;
+    area += own;
+    double const modulus = ValueOf(material, MatAnalValue::YoungsModulus);
+    factors.push_back(beam.youngsModulus == 0 ? 1 : modulus / beam.youngsModulus);
+  }
+  if (!alike && area > 0) beam.meanDensity = mass / area;
+  if (!transformed) factors.clear();
+  auto const properties = Data::PropertiesOf(section.Moments(position, factors));
+  beam.area = properties.area;
+  beam.iyy = properties.iyy;
+  beam.izz = properties.izz;
+  beam.iyz = properties.iyz;
+  return beam;
+}
+
 }  // namespace
 
 bool NamesStage(CZelData const& model, Data::CEntList const& stages, int stage) {
@@ -48,6 +85,44 @@ Vbool6 StageQueries::NodeTotalRestraint(int node, int stage) const {
         Util::IsItemIncluded(general.Nodes(), {SelNode, node}, m_model))
       total = total | general.Restraint();
   return total;
+}
+
+int StageQueries::StageProperty(PropertyType type, int property, int stage) const {
+  return m_core.stageProperties.Property(m_core.state, type, property, stage);
+}
+
+int StageQueries::ElemStageProperty(int element, int stage) const {
+  return m_model.EntProperty({SelElement, element}, stage);
+}
+
+int StageQueries::ElemMatAnal(int element, int stage) const {
+  auto const& state = m_core.state;
+  auto const* record = state.elem.Find(element);
+  if (record == nullptr) return 0;
+  int const property = ElemStageProperty(element, stage);
+  int material = 0;
+  if (auto const* plate = record->Is2D() ? state.prop2D.Find(property) : nullptr)
+    material = plate->MaterialAnalysis();
+  if (auto const* solid = record->Is3D() ? state.prop3D.Find(property) : nullptr)
+    material = solid->MaterialAnalysis();
+  if (auto const* section = record->IsSection() ? state.section.Find(property) : nullptr)
+    material = section->NumComponent() == 0 ? 0 : section->MaterialAnalysis(0);
+  return m_core.stageProperties.Material(state, material, stage);
+}
+
+Data::CPropBeam StageQueries::Elem1DPropMat(int element, int stage, double position,
+                                            bool transformed) const {
+  auto const& state = m_core.state;
+  auto const* record = state.elem.Find(element);
+  auto const* section = record != nullptr && record->IsSection()
+                            ? state.section.Find(ElemStageProperty(element, stage))
+                            : nullptr;
+  if (section == nullptr || section->NumComponent() == 0) return {};
+  auto const material = [&](int component) -> Data::CMatAnal const* {
+    int const own = section->MaterialAnalysis(component);
+    return state.matAnal.Find(m_core.stageProperties.Material(state, own, stage));
+  };
+  return BeamOf(*section, material, position, transformed);
 }
 
 }  // namespace Tarvex

@@ -18,6 +18,7 @@
 #include "store/model/load_tables.h"
 #include "store/model/member_tables.h"
 #include "store/model/property_tables.h"
+#include "store/model/result_tables.h"
 #include "store/model/stage_queries.h"
 #include "store/numeric/box.h"
 #include "store/record/spec.h"
@@ -65,6 +66,7 @@ class TARVEX_STORE_EXPORT CZelData : public ModelBase,
                                      public ConstraintTables,
                                      public PropertyTables,
                                      public CaseTables,
+                                     public ResultTables,
                                      public EntityQueries,
                                      public GridQueries,
                                      public ConstraintQueries,

@@ -34,6 +34,7 @@ Intervals CCaseDesc::LoadCases() const {
 bool CCombCaseDesc::SetDescription(CString const& text, CaseFault* fault) {
   if (!CaseText::SetDescription(text, fault)) return false;
   m_resolution.Clear();
+  m_alternative.Clear();
   return true;
 }
 

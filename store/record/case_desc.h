@@ -13,6 +13,7 @@ class CZelData;
 
 namespace Data {
 
+struct CaseAlternative;
 struct CaseResolution;
 
 /// A kept value that a copy does not take along.
@@ -79,6 +80,7 @@ class TARVEX_STORE_EXPORT CCombCaseDesc : public CaseText {
   int NumPermutation(CZelData const& model) const;
   /// The factor of a case in one of those combinations. @param permutation from 1. Where
   /// NumPermutation was not asked the text alone counts: a combination is then a case by itself.
+  /// The object remembers the factors of the last alternative that was asked for.
   double CaseFactor(int permutation, SCaseRef const& ref) const;
 
   bool SetDescription(CString const& text, CaseFault* fault = nullptr);
@@ -88,9 +90,8 @@ class TARVEX_STORE_EXPORT CCombCaseDesc : public CaseText {
   }
 
  private:
-  struct Found;
-
   mutable OwnKeptValue<CaseResolution> m_resolution;
+  mutable OwnKeptValue<CaseAlternative> m_alternative;
 };
 
 }  // namespace Data

@@ -43,10 +43,10 @@ int CMember::Dimension() const {
 
 MembGeom CMember::Geometry() const { return Is1D() ? m_topology.Geometry() : MembGeom::Line; }
 
-CModule::ModuleId CMember::PropertyTable(CMember const& member) {
+CModule::ModuleId CMember::PropertyTable() const {
   constexpr std::array kByDimension{CModule::None, CModule::None, CModule::Prop2D, CModule::Prop3D};
-  if (member.Is1D()) return ShapeOf(member.m_analysisType1D).property;
-  return kByDimension[static_cast<std::size_t>(member.Dimension())];
+  if (Is1D()) return ShapeOf(m_analysisType1D).property;
+  return kByDimension[static_cast<std::size_t>(Dimension())];
 }
 
 bool CMember::IsElementTypeValid(VariantElementType type) const {
@@ -63,6 +63,11 @@ bool CMember::DoesElementTypeMatchAnalysisType(VariantElementType type) const {
   bool const quadratic = ShapeOf(*element).quadratic == *element;
   return m_analysisOrder != Member::AnalysisOrder::LoadPanels &&
          quadratic == (m_analysisOrder == Member::AnalysisOrder::Quadratic);
+}
+
+ZEL::ReplicatedMesh CMember::AnalysisMesh(bool, bool) const {
+  auto const mesh = m_mesh.Get();
+  return mesh == nullptr ? ZEL::ReplicatedMesh() : *mesh;
 }
 
 int CMember::NumElem() const {

@@ -6,6 +6,8 @@
 
 #include "store/record/connection.h"
 #include "store/record/entity.h"
+#include "store/record/kept_value.h"
+#include "store/record/member_mesh.h"
 #include "store/record/member_type.h"
 #include "store/record/offset.h"
 #include "store/record/topo_list.h"
@@ -74,6 +76,8 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   void SetGroup(int group) { m_group = group; }
   int Property() const { return m_property; }
   void SetProperty(int property) { m_property = property; }
+  /// The table of its property number, by the dimension and the type of its elements.
+  CModule::ModuleId PropertyTable() const;
 
   /// Node that the local xy plane of a 1D member goes through, 0 for none; the centre of an arc
   /// that runs about it.
@@ -117,6 +121,13 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   bool RemoveChildElement(int number);
   void ClearChildElements() { m_children.clear(); }
 
+  /// The mesh of the last meshing, empty for a member that was never meshed. It goes with copies
+  /// that stay under the member's number, and is no part of equality or files. The arguments are
+  /// false.
+  ZEL::ReplicatedMesh AnalysisMesh(bool = false, bool = false) const;
+  void SetAnalysisMesh(ZEL::ReplicatedMesh mesh) { m_mesh.Set(std::move(mesh)); }
+  void ClearAnalysisMesh() { m_mesh.Clear(); }
+
   /// Centre of an arc, in global co-ordinates. @return false, and the centre stays, for a member
   /// that is no arc, whose nodes do not exist or lie on a line.
   bool ArcCentre(CZelData const& model, Vec3<double>& centre) const;
@@ -133,7 +144,8 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
         NamedFields<CMember>(),
         MakeRows(Plain<CMember>("type", &CMember::m_type),
                  Plain<CMember>("group", &CMember::m_group),
-                 Field<CMember, int>{"property", &CMember::m_property, false, &PropertyTable},
+                 Field<CMember, int>{"property", &CMember::m_property, false,
+                                     [](CMember const& m) { return m.PropertyTable(); }},
                  Reference<CMember, CModule::Node>("topology", &CMember::m_topology, true),
                  Reference<CMember, CModule::Node>("orientationNode", &CMember::m_orientationNode),
                  Plain<CMember>("orientationAngle", &CMember::m_orientationAngle),
@@ -149,7 +161,6 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
 
  private:
   static std::size_t EndPlace(int end) { return end == 0 ? 0 : 1; }
-  static CModule::ModuleId PropertyTable(CMember const& member);
 
   MembType m_type = MembType::Generic;
   int m_group = 1;
@@ -165,6 +176,7 @@ class TARVEX_STORE_EXPORT CMember : public NamedEntity {
   bool m_dummy = false;
   bool m_releaseEdges = false;
   ChildLists m_children;
+  KeptValue<ZEL::ReplicatedMesh> m_mesh;
 };
 
 }  // namespace Data

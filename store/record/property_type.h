@@ -43,4 +43,13 @@ constexpr CModule::ModuleId PropertyModule(PropertyType type) {
   return CModule::None;
 }
 
+/// The family of a table, None for a table that is no family's.
+constexpr PropertyType PropertyTypeOf(CModule::ModuleId module) {
+  for (int i = 0; i <= static_cast<int>(PropertyType::Damper); ++i)
+    if (auto const type = static_cast<PropertyType>(i);
+        module != CModule::None && PropertyModule(type) == module)
+      return type;
+  return PropertyType::None;
+}
+
 }  // namespace Tarvex

@@ -49,5 +49,13 @@ CString ReplaceHash(CString const& text, int number) {
   return CString(std::move(replaced));
 }
 
+CString ColString(int column) {
+  constexpr int kLetters = 26;
+  std::wstring text;
+  for (; column > 0; column = (column - 1) / kLetters)
+    text.insert(text.begin(), static_cast<wchar_t>(L'A' + (column - 1) % kLetters));
+  return text;
+}
+
 }  // namespace Util
 }  // namespace Tarvex

@@ -23,5 +23,8 @@ namespace Util {
 /// A text with the number in the place of each '#'.
 TARVEX_STORE_EXPORT CString ReplaceHash(CString const& text, int number);
 
+/// The name of a column as spreadsheets have it: A for 1, Z for 26, AA for 27; empty below 1.
+TARVEX_STORE_EXPORT CString ColString(int column);
+
 }  // namespace Util
 }  // namespace Tarvex

@@ -45,6 +45,15 @@ TEST(PropertyRecordsLink, Properties) {
                         &CSpringProp::Stiffness, &CSpringProp::SetStiffness, &CSpringProp::TableRef,
                         &CSpringProp::SetTableRef, &CProp2D::SetFromDesc, &CDamperProp::Damping,
                         &CDamperProp::SetDamping));
+  EXPECT_TRUE(AreLinked(&CSection::Shape, &CSection::Properties, &CSection::Moments,
+                        &CSecComp::Moments, &CSecComp::Box, &CSecGeom::SetDescription,
+                        &CSecGeom::Description, &CSecGeom::Dimension, &CSecGeom::Moments,
+                        &CSecGeom::Box, &SectionShapeOf, &ReadSection, &WriteSection,
+                        &PropertiesOf));
+  EXPECT_NEAR(CSection(L"", {CSecComp(L"rectangle 2 1", 0, MatDesign())})
+                  .EnclosingBox(0, SecRef::Centroid)
+                  .top,
+              1, 1e-15);
   CSection section;
   section.SetComponent(0, CSecComp());
   section.SetMaterialAnalysis(0, 4);

@@ -2,10 +2,12 @@
 
 #include "store/record/axis.h"
 #include "store/record/cases.h"
+#include "store/record/element.h"
 #include "store/record/load_case_title.h"
 #include "store/record/mat_anal.h"
 #include "store/record/node.h"
 #include "store/record/res_spectrum.h"
+#include "store/record/results.h"
 #include "store/record/section.h"
 #include "store/record/stages.h"
 #include "store/record/task_slot.h"
@@ -32,6 +34,7 @@ class CaseMaker {
     ForNumbers(4, [&](int n) { m_model.SetCombinationCase(n, Combination()); });
     ForNumbers(2, [&](int n) { m_model.SetCaseDescription(n, Description()); });
     ForNumbers(2, [&](int n) { m_model.SetDesignTask(n, Named<CDesignTask>()); });
+    AddResults();
     SetOneOffs();
   }
 
@@ -186,6 +189,38 @@ class CaseMaker {
     auto record = Named<Data::CCaseDescription>();
     if (!Changed()) record.SetDescription(Cases());
     return record;
+  }
+
+  Vec3<double> Action() {
+    double const x = m_random.Real(-9, 9);
+    double const y = m_random.Real(-9, 9);
+    return {x, y, m_random.Real(-9, 9)};
+  }
+  SCaseRef CaseWithResults() {
+    bool const analysis = m_random.Percent(50);
+    int const permutation = Changed() ? m_random.Int(1, 3) : 0;
+    if (analysis) return {CaseOp::Analysis, Existing(m_model.AnalysisCases()), permutation};
+    return {CaseOp::Combination, Existing(m_model.CombinationCase()), permutation};
+  }
+  void AddResults() {
+    std::vector<int> elements;
+    for (auto const& [n, element] : m_model.Elem()) elements.push_back(static_cast<int>(n));
+    for (int i = m_random.Int(1, 4); i > 0; --i) {
+      int const n = m_random.Of(elements);
+      m_model.SetForce(n, CaseWithResults(), m_random.Int(0, 1), Action());
+      m_model.SetMoment(n, CaseWithResults(), m_random.Int(0, 1), Action());
+      auto record = m_model.ElemResult(n);
+      if (Changed()) record.SetSid(RandomText(m_random));
+      m_model.SetElemResult(n, record);
+    }
+    ForNumbers(2, [&](int n) {
+      Data::CCaseResult record(CaseWithResults());
+      if (Changed()) record.SetSid(RandomText(m_random));
+      if (Changed()) record.SetMass(m_random.Int(0, 3), m_random.Real(1, 1000));
+      if (Changed()) record.SetPeriod(m_random.Int(1, 3), m_random.Real(0.1, 3));
+      if (Changed()) record.SetBaseShear(m_random.Int(0, 3), m_random.Real(1, 1000));
+      m_model.SetCaseResult(n, record);
+    });
   }
 
   void SetOneOffs() {

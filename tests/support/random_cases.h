@@ -6,8 +6,8 @@
 namespace Tarvex::Testing {
 
 /// Adds titles of load cases, stages 1 to 4 or some of them, tasks of each class, analysis cases,
-/// combinations and descriptions to a model that has nodes, axes, materials, properties and
-/// spectra. All that they name exists, but for numbers in lists and texts.
+/// combinations, descriptions and results to a model that has nodes, axes, materials, properties
+/// and spectra. All that they name exists, but for numbers in lists and texts.
 void AddRandomCases(CZelData& model, Random& random);
 
 }  // namespace Tarvex::Testing

@@ -153,11 +153,19 @@ class PropertyMaker {
     record.SetMaterialAnalysis(Changed() ? -1 : ExistingOrNone(m_model.MatAnal()));
   }
 
+  CString Shape() {
+    return m_random.Of<CString>({L"rectangle 0.5 0.3", L"I(mm) 300 150 7.1 10.7 15",
+                                 L"box 0.2 0.1 0.005 0.005 0.0075 0.005", L"tube 0.2 0.01",
+                                 L"rectangle 0.5 0.3 to 0.8 0.3", L"channel 0.2 0.08 0.006 0.01"});
+  }
+
   void AddSections() {
     Add(&CZelData::SetSection, [this](Data::CSection& section) {
       for (int i = m_random.Int(0, 3); i > 0; --i) {
         Data::CSecComp component;
-        if (Changed()) component.SetDescription(RandomText(m_random));
+        if (!Changed()) component.SetDescription(Shape());
+        if (Changed()) component.SetOffset({Value(), Value()});
+        if (Changed()) component.SetAngle(m_random.Real(1, 359));
         FillMaterial(component);
         section.SetComponent(section.NumComponent(), component);
       }

@@ -73,6 +73,7 @@ void Run(Invocation const& invocation, Report& report) {
   step.Accept();
   if (report.changesModel) {
     report.changes = FindChanges(before, model);
+    if (!report.changes.empty()) report.totals = FindTotalChanges(before, model);
     if (invocation.inPlace)
       ReplaceModel(model, invocation.model);
     else if (!invocation.dryRun)

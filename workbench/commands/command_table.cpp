@@ -6,13 +6,14 @@
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), SelectionCommands(), PictureCommands(),
+  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
                              OrientationCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;

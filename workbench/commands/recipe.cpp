@@ -97,6 +97,7 @@ void RunStep(CZelData& model, RecipeStep const& step, Report& report) {
   report.changesModel = step.command->kind == CommandKind::Changes;
   step.command->run(model, step.arguments, report.result);
   report.changes = FindChanges(before, model);
+  if (!report.changes.empty()) report.totals = FindTotalChanges(before, model);
 }
 
 void RunRecipe(CZelData& model, Arguments const& arguments, CommandResult& result) {

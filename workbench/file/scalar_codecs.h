@@ -87,10 +87,16 @@ template <class Value>
           std::to_string(fault.position + 1));
 }
 
-/// The text of a selection list.
-/// A description of cases: its text.
+/// What keeps the text that it was built from, also one that it can't read: descriptions of cases
+/// and of sections.
 template <class T>
-requires std::is_same_v<T, Data::CCaseDesc> || std::is_same_v<T, Data::CCombCaseDesc>
+concept KeepsText = requires(T const& value) {
+  { value.Text() } -> std::same_as<CString const&>;
+  { value.IsReadable() } -> std::same_as<bool>;
+};
+
+/// Its text.
+template <KeepsText T>
 struct Codec<T> {
   template <class Value>
   static void Read(Value& in, T& value) {
@@ -103,6 +109,7 @@ struct Codec<T> {
   }
 };
 
+/// The text of a selection list.
 template <>
 struct Codec<Data::ListText> {
   template <class Value>

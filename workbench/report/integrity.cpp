@@ -115,6 +115,16 @@ void CheckDescription(std::string_view table, int number, std::string_view field
                         std::nullopt, ""});
 }
 
+void CheckSections(CZelData const& model, Findings& findings) {
+  for (auto const& [n, section] : model.Section())
+    for (int i = 0; i < section.NumComponent(); ++i) {
+      Data::SectionFault fault;
+      if (Data::ReadSection(section.Component(i).Description(), &fault)) continue;
+      findings.push_back({"description-not-readable", "Section", static_cast<int>(n),
+                          "components.description", i, fault.position, ""});
+    }
+}
+
 void CheckDescriptions(CZelData const& model, Findings& findings) {
   ForEachTable([&](auto const& row) {
     using Record = typename std::remove_cvref_t<decltype(row)>::Record;
@@ -140,6 +150,7 @@ std::vector<Finding> FindFaults(CZelData const& model) {
   AddDanglingReferences(model, findings);
   CheckLists(model, findings);
   CheckDescriptions(model, findings);
+  CheckSections(model, findings);
   CheckTopologies(model, findings);
   CheckAllNumbers(model, findings);
   std::stable_sort(findings.begin(), findings.end(),

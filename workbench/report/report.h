@@ -10,6 +10,7 @@
 #include "workbench/commands/errors.h"
 #include "workbench/file/file_error.h"
 #include "workbench/report/model_changes.h"
+#include "workbench/report/totals.h"
 
 namespace Tarvex::Workbench {
 
@@ -29,6 +30,7 @@ struct Report {
   ExitCode exit = ExitCode::Done;
   CommandResult result;
   std::vector<TableChange> changes;
+  TotalChanges totals;
   std::optional<Failure> failure;
 };
 

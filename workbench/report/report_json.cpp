@@ -67,9 +67,11 @@ Json DataJson(Report const& report) {
             {"maps", Json::object()},
             {"messages", result.messages},
             {"undone", Undones(result.undone)},
-            {"totals", Json::array()},
+            {"totals", TotalChangesJson(report.totals)},
             {"tolerances", Tolerances(result.tolerances)},
             {"result", own}};
+  if (auto const& mass = report.totals.mass)
+    json["mass"] = {{"before", mass->first}, {"after", mass->second}};
   if (result.steps != nullptr) json["steps"] = *result.steps;
   return json;
 }

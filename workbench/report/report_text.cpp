@@ -58,6 +58,7 @@ std::string ReportText(Report const& report, bool verbose) {
   text += ChangesText(report.changes, verbose);
   for (auto const& message : result.messages) text += "  " + message + "\n";
   text += UndoneLines(result.undone, verbose);
+  text += TotalChangesText(report.totals);
   for (auto const& tolerance : result.tolerances)
     text += "  " + tolerance.name + " " + NumberText(tolerance.value) + " " + tolerance.unit + "\n";
   return text + written;

@@ -4,6 +4,7 @@
 
 #include "store/model/analysis_case_table.h"
 #include "store/record/load_case_title.h"
+#include "store/record/results.h"
 #include "store/record/row_pack.h"
 #include "store/record/stages.h"
 #include "tests/store/model/table_row.h"
@@ -45,6 +46,15 @@ inline auto CaseRows() {
       TARVEX_ROW_OF(CombinationCase, 236, Data::CCombinationCase, (true), (false)),
       TARVEX_ROW_OF(CaseDescription, -1, Data::CCaseDescription, (L"a"), (L"b")),
       TARVEX_ROW_OF(DesignTask, 239, CDesignTask, (L"a"), (L"b")));
+}
+
+/// Results.
+inline auto ResultRows() {
+  using Data::CCaseResult;
+  using Data::CElemResult;
+  return MakeRows(TARVEX_ROW_OF(ElemResult, -1, CElemResult, (), ()),
+                  TARVEX_ROW_OF(CaseResult, -1, CCaseResult, (SCaseRef(CaseOp::Analysis, 1)),
+                                (SCaseRef(CaseOp::Combination, 2))));
 }
 
 }  // namespace Tarvex::RegistryTest

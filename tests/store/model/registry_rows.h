@@ -167,6 +167,6 @@ inline auto EntityRows() {
                    [](CZelData& m, int first, int count) { m.BlankOpView(first, count); }});
 }
 
-inline auto Rows() { return JoinRows(EntityRows(), PropertyRows(), CaseRows()); }
+inline auto Rows() { return JoinRows(EntityRows(), PropertyRows(), CaseRows(), ResultRows()); }
 
 }  // namespace Tarvex::RegistryTest

@@ -82,6 +82,73 @@ TEST(Section, KeepsItsReferencePointAndAdditionalMass) {
   EXPECT_EQ(section.AdditionalMass(), 2.5);
 }
 
+/// Two channels 200 by 80 back to back, 10 between them.
+CSection Pair() {
+  CSecComp right(L"channel 0.2 0.08 0.01 0.02", 0, MatDesign());
+  right.SetOffset({-0.045, 0});
+  right.SetAngle(180);
+  CSecComp left(L"channel 0.2 0.08 0.01 0.02", 0, MatDesign());
+  left.SetOffset({0.045, 0});
+  return {L"pair", {right, left}};
+}
+
+TEST(Section, HasTheShapeOfItsOneComponent) {
+  EXPECT_EQ(CSection(L"", {CSecComp(L"I 0.4 0.2 0.01 0.02", 0, MatDesign())}).Shape(),
+            SectionShape::I);
+  EXPECT_EQ(Filled().Shape(), SectionShape::None);
+  EXPECT_EQ(CSection().Shape(), SectionShape::None);
+}
+
+TEST(Section, AddsUpItsComponents) {
+  // The webs face each other, so that the centroid of each lies to the side of its middle.
+  auto const pair = Pair().Properties(0);
+  auto const one = PropertiesOf(CSecGeom(L"channel 0.2 0.08 0.01 0.02").Moments(0));
+  double const lever = 0.045 + one.centroid.x;
+  EXPECT_NEAR(pair.area, 2 * one.area, 1e-15);
+  EXPECT_NEAR(pair.centroid.x, 0, 1e-15);
+  EXPECT_NEAR(pair.iyy, 2 * one.iyy, 1e-15);
+  EXPECT_NEAR(pair.izz, 2 * (one.izz + one.area * lever * lever), 1e-15);
+}
+
+TEST(Section, EnclosesItsComponents) {
+  auto const box = Pair().EnclosingBox(0, SecRef::Origin);
+  EXPECT_NEAR(box.left, 0.085, 1e-15);
+  EXPECT_NEAR(box.right, -0.085, 1e-15);
+  EXPECT_NEAR(box.top, 0.1, 1e-15);
+  EXPECT_NEAR(box.bottom, -0.1, 1e-15);
+  CSecBox other;
+  Pair().EnclosingBox(other, 0, SecRef::Middle);
+  EXPECT_NEAR(other.Width() * other.Height(), 0.17 * 0.2, 1e-15);
+  EXPECT_EQ(CSection().EnclosingBox(0, SecRef::Centroid), CSecBox());
+}
+
+TEST(Section, MeasuresItsBoxFromTheReferenceThatIsAskedFor) {
+  // A tee 500 deep: its centroid is (0.04 * 0.2 - 0.08 * 0.05) / 0.12 = 1 / 30 above the middle.
+  CSecComp tee(L"tee 0.5 0.4 0.2 0.1", 0, MatDesign());
+  tee.SetOffset({1, 2});
+  CSection section(L"", {tee});
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Origin).top, 2.25, 1e-15);
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Centroid).top, 0.25 - 1.0 / 30, 1e-15);
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Centroid).left, 0.2, 1e-15);
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Middle).top, 0.25, 1e-15);
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Reference).top, 0.25 - 1.0 / 30, 1e-15);
+  section.SetRefPoint(CSecRefPoint(Place::TopLeft));
+  auto const box = section.EnclosingBox(0, SecRef::Reference);
+  EXPECT_NEAR(box.top, 0, 1e-15);
+  EXPECT_NEAR(box.bottom, -0.5, 1e-15);
+  EXPECT_NEAR(box.left, 0, 1e-15);
+  EXPECT_NEAR(box.right, -0.4, 1e-15);
+  section.SetRefPoint(CSecRefPoint(Place::BottomRight));
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Reference).top, 0.5, 1e-15);
+  EXPECT_NEAR(section.EnclosingBox(0, SecRef::Reference).left, 0.4, 1e-15);
+}
+
+TEST(Section, WeighsItsComponentsWhereAsked) {
+  // A steel tube full of concrete, the concrete counting a seventh.
+  auto const moments = Filled().Moments(0, std::vector{1.0, 1.0 / 7});
+  EXPECT_NEAR(moments.area, kPi * (0.15 * 0.15 - 0.14 * 0.14 + 0.14 * 0.14 / 7), 1e-15);
+}
+
 TEST(SecRefPoint, TellsItsSides) {
   struct Row {
     Place place;
@@ -109,7 +176,12 @@ TEST(SecComp, ComparesEveryField) {
   using R = CSecComp;
   Testing::ExpectFields<R>({{"description", [](R& r) { r.SetDescription(L"d"); }},
                             {"materialAnalysis", [](R& r) { r.SetMaterialAnalysis(1); }},
-                            {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }}});
+                            {"materialDesign", [](R& r) { r.SetMaterialGrade(1); }},
+                            {"offset",
+                             [](R& r) {
+                               r.SetOffset({0, 1});
+                             }},
+                            {"angle", [](R& r) { r.SetAngle(1); }}});
 }
 
 TEST(Section, ComparesEveryField) {

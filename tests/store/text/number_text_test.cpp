@@ -67,5 +67,17 @@ TEST(ReplaceHash, PutsTheNumberInThePlaceOfEachHash) {
   EXPECT_EQ(Util::ReplaceHash(L"", 3), L"");
 }
 
+TEST(ColString, NamesColumnsAsSpreadsheetsDo) {
+  EXPECT_EQ(Util::ColString(1), L"A");
+  EXPECT_EQ(Util::ColString(26), L"Z");
+  EXPECT_EQ(Util::ColString(27), L"AA");
+  EXPECT_EQ(Util::ColString(52), L"AZ");
+  EXPECT_EQ(Util::ColString(53), L"BA");
+  EXPECT_EQ(Util::ColString(702), L"ZZ");
+  EXPECT_EQ(Util::ColString(703), L"AAA");
+  EXPECT_EQ(Util::ColString(0), L"");
+  EXPECT_EQ(Util::ColString(-1), L"");
+}
+
 }  // namespace
 }  // namespace Tarvex::NumberTextTest

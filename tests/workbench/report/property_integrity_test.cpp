@@ -242,5 +242,20 @@ TEST(FindFaults, FindsANumberThatIsNotFiniteInProperties) {
                 {"dimension-not-finite", "Prop2D", 3, "thickness", -1, std::nullopt, ""}}));
 }
 
+TEST(PropertyIntegrity, TellsADescriptionOfASectionThatCannotBeRead) {
+  CZelData model;
+  model.SetSection(3, Data::CSection(L"", {Data::CSecComp(L"rectangle 1 1", 0, MatDesign()),
+                                           Data::CSecComp(L"rectangle 1", 0, MatDesign()),
+                                           Data::CSecComp(L"", 0, MatDesign())}));
+  auto const findings = FindFaults(model);
+  ASSERT_EQ(findings.size(), 1U);
+  EXPECT_EQ(findings[0].code, "description-not-readable");
+  EXPECT_EQ(findings[0].table, "Section");
+  EXPECT_EQ(findings[0].number, 3);
+  EXPECT_EQ(findings[0].field, "components.description");
+  EXPECT_EQ(findings[0].index, 1);
+  EXPECT_EQ(findings[0].value, 11);
+}
+
 }  // namespace
 }  // namespace Tarvex::PropertyIntegrityTest
