@@ -20,7 +20,9 @@ MAY_INCLUDE = {
     "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
+    "renumber": ["store/", "tarvex/", "frame/"],
     "topology": ["store/", "tarvex/", "frame/", "renumber/"],
+    "members": ["store/", "tarvex/", "frame/", "topology/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.

@@ -1,6 +1,10 @@
 // All tools of the library.
 #pragma once
 
+#include "tarvex/conversion.h"
 #include "tarvex/data_mgr.h"
 #include "tarvex/orientation.h"
+#include "tarvex/refinement.h"
+#include "tarvex/renumber.h"
 #include "tarvex/split_connect.h"
+#include "tarvex/tidy.h"

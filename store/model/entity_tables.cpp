@@ -1,5 +1,7 @@
 #include "store/model/entity_tables.h"
 
+#include <algorithm>
+
 #include "store/geometry/axis_trans.h"
 #include "store/model/model_core.h"
 #include "store/model/node_holds.h"
@@ -36,10 +38,16 @@ void StoreEntity(ModelCore& core, PagedTable<Record>& table, PagedTable<Other>& 
   NodeUse::TopologyChanged(core, ElementRef(n), before, stored.Topology());
 }
 
-/// Takes an element or panel that goes off the lists of its members.
+bool IsBulk(ModelCore const& core, CModule::ModuleId module) {
+  auto const& modules = core.bulkModules;
+  return std::find(modules.begin(), modules.end(), module) != modules.end();
+}
+
+/// Takes an element or panel that goes off the lists of its members. In a bulk change of elements
+/// it comes back under another number, and the tool that opened it rewrites the lists.
 void LeaveMembers(ModelCore& core, int n) {
   auto& members = core.state.member;
-  if (members.empty()) return;
+  if (members.empty() || IsBulk(core, CModule::Elem)) return;
   auto const owners = core.children.Of(members, n);
   for (auto const& owner : owners) members.Edit(owner.member).RemoveChildElement(n);
   if (!owners.empty()) core.children.Removed(n);
