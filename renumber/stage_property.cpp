@@ -8,7 +8,7 @@ namespace Tarvex {
 namespace {
 
 /// The record that stands for another in a stage; that one itself where none does.
-int InStage(CZelData const& model, PropertyType type, int property, int stage) {
+[[maybe_unused]] int InStage(CZelData const& model, PropertyType type, int property, int stage) {
   if (property == 0) return 0;
   for (auto const& [n, record] : model.AnalStageProp())
     if (record.Stage() == stage && record.PropType() == type && record.ElemProp() == property)
