@@ -1,18 +1,17 @@
 // Plates with a node in the middle of each side.
-#include <algorithm>
-
 #include "frame/rebuild_hold.h"
 #include "members/edge_middles.h"
 #include "members/plate_corners.h"
 #include "members/rigid_followers.h"
+#include "tarvex/coincidence.h"
 #include "tarvex/conversion.h"
-#include "tarvex/renumber.h"
 
 namespace Tarvex {
 namespace {
 
 /// New nodes fold into nodes that are nearer than this, model length units.
 constexpr double kFoldTolerance = 1e-5;
+constexpr int kWholeModel = 0;  // the stage whose joints keep nodes apart
 
 /// One run over the elements of a set.
 class MiddleRun {
@@ -69,7 +68,6 @@ class MiddleRun {
     }
     int const number = m_model.HighestNode() + 1;
     m_model.SetNode(number, node);
-    m_middles.AddTo(number);
     m_edges.Add(a, b, number);
     if (sameAxis) m_rigids.Join(a, b, number);
     return number;
@@ -83,48 +81,18 @@ class MiddleRun {
     }
   }
 
-  /// Merges new nodes into bystanders, as a merge of coincident nodes does: the lower number stays
-  /// and takes the restraints of both.
+  /// Merges new nodes into nodes that stand there and were no corner of the run. The new nodes are
+  /// not in the search set, so that none folds into another.
   void Fold() {
-    if (m_bystanders.IsEmpty() || m_middles.IsEmpty()) return;
-    CRenumber renumber(&m_model);
-    renumber.Index(Data::CEntList(SelNode, CString(L"")), CModule::None);
-    bool any = false;
-    for (int const middle : m_middles) {
-      int const kept = BystanderAt(m_model.NodeCoor(middle));
-      if (kept == 0) continue;
-      auto node = m_model.Node(kept);
-      auto const& gone = m_model.Node(middle);
-      if (node.Axis() == gone.Axis()) node.SetRestraint(node.Restraint() | gone.Restraint());
-      m_model.SetNode(kept, node);
-      renumber.IndexItem(CModule::Node, middle, kept);
-      any = true;
-    }
-    if (any) renumber.Go(false);
-  }
-
-  /// The bystander nearest to a point and nearer than the tolerance, 0 for none.
-  int BystanderAt(Vec3<double> const& point) {
-    m_model.NodesAroundPoint(point, m_around, kFoldTolerance);
-    int found = 0;
-    double least = kFoldTolerance;
-    for (int const n : m_around) {
-      if (!m_bystanders.IsItemIncluded(n)) continue;
-      double const distance = Length(m_model.NodeCoor(n) - point);
-      if (distance < least) {
-        least = distance;
-        found = n;
-      }
-    }
-    return found;
+    CReduceCoinc reduce(m_model, kFoldTolerance, kWholeModel);
+    if (!reduce.SetSearchSet(m_bystanders, CReduceCoinc::kWholeSearch)) return;
+    reduce.Do(m_highestOld + 1, m_model.HighestNode() - m_highestOld);
   }
 
   CZelData& m_model;
   EdgeMiddles m_edges;
   RigidFollowers m_rigids;
   Util::CSet m_bystanders{SelNode};  // nodes that are no corner of an element of the run
-  Util::CSet m_middles{SelNode};
-  std::vector<int> m_around;
   int m_highestOld = 0;
 };
 

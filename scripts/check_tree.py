@@ -17,6 +17,7 @@ MAY_INCLUDE = {
     "store/table": ["store/export.h", "store/text/", "store/select/"],
     "store/model": ["store/export.h", "store/text/", "store/numeric/", "store/select/",
                     "store/geometry/", "store/record/", "store/table/"],
+    "store/model": ["store/"],
     "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],

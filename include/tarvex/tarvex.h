@@ -1,6 +1,7 @@
 // All tools of the library.
 #pragma once
 
+#include "tarvex/coincidence.h"
 #include "tarvex/conversion.h"
 #include "tarvex/data_mgr.h"
 #include "tarvex/orientation.h"

@@ -1,0 +1,36 @@
+#include "topology/coincidence_run.h"
+
+#include "store/record/joint.h"
+
+namespace Tarvex {
+
+CReduceCoinc::Run::Run(CZelData& model, COrderSet const& order, double tolerance, int stage)
+    : renumber(&model), m_model(model), m_order(order), m_tolerance(tolerance), m_stage(stage) {}
+
+JointTies& CReduceCoinc::Run::Ties() {
+  if (!m_ties) m_ties.emplace(m_model, m_stage);
+  return *m_ties;
+}
+
+int CReduceCoinc::Run::Nearest(int place) {
+  if (!m_sweep) m_sweep.emplace(m_order, m_model, m_tolerance);
+  return m_sweep->Nearest(place, Ties());
+}
+
+bool CReduceCoinc::Run::IsConstrained(int node) {
+  if (!m_before) m_before.emplace(m_model);
+  return m_joined.contains(node) || m_before->NodeIsInConstraint(node, m_stage);
+}
+
+void CReduceCoinc::Run::AddJoint(int primary, int constrained) {
+  Vbool6 all;
+  all.SetAll(true);
+  Data::CEntList stages(SelNone, CString());
+  stages.AddTo(m_stage);
+  m_model.SetJoint(m_model.HighestJoint() + 1,
+                   Data::CJoint(CString(), all, primary, constrained, stages));
+  Ties().Add(primary, constrained);
+  m_joined.insert({primary, constrained});
+}
+
+}  // namespace Tarvex

@@ -1,0 +1,43 @@
+// What one run over coincident items keeps.
+#pragma once
+
+#include <optional>
+#include <unordered_set>
+
+#include "store/model/zel_data.h"
+#include "tarvex/coincidence.h"
+#include "tarvex/renumber.h"
+#include "topology/joint_ties.h"
+#include "topology/node_sweep.h"
+
+namespace Tarvex {
+
+/// Nothing moves during a run, and of constraints it only adds its own joints: so positions, ties
+/// and what is constrained are gathered once, when first asked for.
+class CReduceCoinc::Run {
+ public:
+  Run(CZelData& model, COrderSet const& order, double tolerance, int stage);
+
+  /// The node nearest to that at a place of the list, 0 for none.
+  int Nearest(int place);
+  /// Whether a node is in a constraint of the stage.
+  bool IsConstrained(int node);
+  /// Stores a joint of two nodes in all directions, for the stage.
+  void AddJoint(int primary, int constrained);
+
+  CRenumber renumber;
+
+ private:
+  JointTies& Ties();
+
+  CZelData& m_model;
+  COrderSet const& m_order;
+  double m_tolerance;
+  int m_stage;
+  std::optional<NodeSweep> m_sweep;
+  std::optional<JointTies> m_ties;
+  std::optional<CZelData> m_before;  // the run's own joints would make each question costly
+  std::unordered_set<int> m_joined;  // nodes of the run's own joints
+};
+
+}  // namespace Tarvex

@@ -1,0 +1,139 @@
+// Coincident nodes merged or joined.
+#include <algorithm>
+#include <stdexcept>
+
+#include "store/model/zel_data.h"
+#include "store/record/node.h"
+#include "tarvex/coincidence.h"
+#include "tarvex/renumber.h"
+#include "topology/coincidence_run.h"
+#include "topology/item_extents.h"
+
+namespace Tarvex {
+namespace {
+
+/// What a node that stays takes over from one that goes.
+struct MergeRule {
+  Vbool6 (*restraint)(Vbool6 kept, Vbool6 removed);
+  int (*property)(int kept, int removed);
+  double (*size)(double kept, double removed);
+};
+
+constexpr MergeRule kGreater{[](Vbool6 kept, Vbool6 removed) { return kept | removed; },
+                             [](int kept, int removed) { return std::max(kept, removed); },
+                             [](double kept, double removed) { return std::max(kept, removed); }};
+constexpr MergeRule kLesser{[](Vbool6 kept, Vbool6 removed) { return kept & removed; },
+                            [](int kept, int removed) { return std::min(kept, removed); },
+                            [](double kept, double removed) { return std::min(kept, removed); }};
+
+Data::CNode Merged(Data::CNode kept, Data::CNode const& removed, MergeRule const& rule) {
+  if (kept.Axis() == removed.Axis())
+    kept.SetRestraint(rule.restraint(kept.Restraint(), removed.Restraint()));
+  kept.SetSpringProperty(rule.property(kept.SpringProperty(), removed.SpringProperty()));
+  kept.SetMassProperty(rule.property(kept.MassProperty(), removed.MassProperty()));
+  kept.SetDamperProperty(rule.property(kept.DamperProperty(), removed.DamperProperty()));
+  kept.SetMeshSize(rule.size(kept.MeshSize(), removed.MeshSize()));
+  return kept;
+}
+
+bool IsMerge(CReduceCoinc::Option option) {
+  return option == CReduceCoinc::OptionMergeMax || option == CReduceCoinc::OptionMergeMin ||
+         option == CReduceCoinc::OptionMergeKeep;
+}
+
+}  // namespace
+
+CReduceCoinc::CReduceCoinc(CZelData& model, double tolerance, int stage)
+    : m_model(model), m_tolerance(tolerance), m_stage(stage) {}
+CReduceCoinc::CReduceCoinc(CReduceCoinc const&) = default;
+CReduceCoinc::CReduceCoinc(CReduceCoinc&&) noexcept = default;
+CReduceCoinc::~CReduceCoinc() = default;
+
+void CReduceCoinc::SetOrderVector(Vec3<double> const& vector) { m_order.SetOrderVector(vector); }
+
+bool CReduceCoinc::SetSearchSet(Util::CSet const& set, int flags) {
+  m_extents.reset();
+  if ((flags & kTakeSet) != 0) m_order.SetSet(set, m_model, true);
+  if ((flags & kFindOrder) != 0 && !m_order.CalcOrderVector(m_model)) return false;
+  if ((flags & kTakeSet) != 0) m_order.CreateList(m_model);
+  if ((flags & kSortList) != 0) m_order.Sort();
+  return true;
+}
+
+bool CReduceCoinc::AddToSearchSet(int number) {
+  m_extents.reset();
+  return m_order.AddToSet(number, m_model);
+}
+
+bool CReduceCoinc::RemoveFromSearchSet(int number) { return m_order.RemoveFromSet(number); }
+
+/// Lets a walk process items; then references change, when nodes were merged.
+template <class Walk>
+bool CReduceCoinc::RunOver(Walk&& walk) {
+  Run run(m_model, m_order, m_tolerance, m_stage);
+  bool const merging = IsMerge(m_option);
+  if (merging) run.renumber.Index(Data::CEntList(m_order.TypeOf(), CString()), CModule::None);
+  bool const did = walk(run);
+  if (did && merging) run.renumber.Go(false);
+  return did;
+}
+
+bool CReduceCoinc::Do(Util::CSet const& items, std::vector<std::pair<int, int>>& pairs) {
+  return RunOver([&](Run& run) {
+    bool did = false;
+    int const lowest = m_order.Set().LowestItem();
+    for (int n = m_order.Set().HighestItem(); n >= lowest && n > 0; --n) {
+      if (!m_order.IsItemIncluded(n) || !items.IsItemIncluded(n)) continue;
+      std::pair<int, int> pair{0, 0};
+      if (!DoItem(n, run, pair)) continue;
+      did = true;
+      if (pair.first != 0 && pair.second != 0) pairs.push_back(pair);
+    }
+    return did;
+  });
+}
+
+bool CReduceCoinc::Do(int first, int count) {
+  return RunOver([&](Run& run) {
+    bool did = false;
+    std::pair<int, int> pair;
+    for (int left = count; left > 0; --left)
+      if (DoItem(first + (left - 1), run, pair)) did = true;
+    return did;
+  });
+}
+
+bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
+  int const place = m_order.GetIndexFromRef(item);
+  bool const listed = m_order.TypeOf() == SelNode && place >= 0 && m_model.NodeExist(item);
+  int const other = listed ? run.Nearest(place) : FindCoinc(item, false);
+  if (other == 0) return false;
+  bool const merging = IsMerge(m_option);
+  if (!merging && m_option != OptionJoint) return true;
+  if (m_order.TypeOf() != SelNode) throw std::out_of_range("bad entity type");
+  if (!merging) return Join(item, other, run);
+  pair = {std::max(item, other), std::min(item, other)};
+  Merge(pair.first, pair.second);
+  run.renumber.IndexItem(EntModId(SelNode), pair.first, pair.second);
+  m_order.RemoveFromSet(pair.first);
+  return true;
+}
+
+void CReduceCoinc::Merge(int removed, int kept) {
+  if (m_option == OptionMergeKeep) return;
+  auto const merged = Merged(m_model.Node(kept), m_model.Node(removed),
+                             m_option == OptionMergeMin ? kLesser : kGreater);
+  if (!(merged == m_model.Node(kept))) m_model.SetNode(kept, merged);
+}
+
+bool CReduceCoinc::Join(int item, int other, Run& run) {
+  if (run.IsConstrained(item) || run.IsConstrained(other)) return false;
+  run.AddJoint(other, item);
+  auto const restraint = m_model.Node(item).Restraint();
+  auto const& primary = m_model.Node(other);
+  if (!restraint.IsNone() && m_model.Node(item).Axis() == primary.Axis())
+    m_model.SetNodeRestraint(other, primary.Restraint() | restraint);
+  return true;
+}
+
+}  // namespace Tarvex
