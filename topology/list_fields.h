@@ -1,6 +1,8 @@
 // Lists of records, one row each, for the operations that rewrite them.
 #pragma once
 
+#include <functional>
+
 #include "store/record/assembly.h"
 #include "store/record/beam_loads.h"
 #include "store/record/body_loads.h"
@@ -21,9 +23,11 @@ using ReadLoad = Record const& (LoadTables::*)(int) const;
 template <class Record, ReadLoad<Record> read, auto highest, auto exist, auto write, auto remove>
 inline constexpr ListField kLoaded{
     highest, exist,
-    [](CZelData const& m, int n) -> Data::CEntList const& { return (m.*read)(n).LoadedEntities(); },
-    [](CZelData& m, int n, Data::CEntList const& list) { (m.*write)(n, list); },
-    [](CZelData& m, int n) { (m.*remove)(n, 1); }};
+    [](CZelData const& m, int n) -> Data::CEntList const& {
+      return std::invoke(read, m, n).LoadedEntities();
+    },
+    [](CZelData& m, int n, Data::CEntList const& list) { std::invoke(write, m, n, list); },
+    [](CZelData& m, int n) { std::invoke(remove, m, n, 1); }};
 
 inline constexpr auto kNodeLoad =
     kLoaded<Data::CNodeLoad, &CZelData::NodeLoad, &CZelData::HighestNodeLoad,

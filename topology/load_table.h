@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cmath>
+#include <functional>
 #include <optional>
 
 #include "store/model/list_expansion.h"
@@ -20,12 +21,12 @@ template <
     class Record, Record const& (LoadTables::*read)(int) const, int (LoadTables::*highest)() const,
     void (LoadTables::*write)(int, Record const&, SidMode), void (LoadTables::*remove)(int, int)>
 struct LoadTable {
-  static int Highest(CZelData const& model) { return (model.*highest)(); }
-  static Record const& Read(CZelData const& model, int n) { return (model.*read)(n); }
+  static int Highest(CZelData const& model) { return std::invoke(highest, model); }
+  static Record const& Read(CZelData const& model, int n) { return std::invoke(read, model, n); }
   static void Write(CZelData& model, int n, Record const& load) {
-    (model.*write)(n, load, SidMode::Keep);
+    std::invoke(write, model, n, load, SidMode::Keep);
   }
-  static void Delete(CZelData& model, int n) { (model.*remove)(n, 1); }
+  static void Delete(CZelData& model, int n) { std::invoke(remove, model, n, 1); }
 
   /// Whether a load is on an element.
   static bool IsOn(CZelData const& model, int n, int element) {

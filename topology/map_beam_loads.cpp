@@ -26,9 +26,14 @@ std::vector<Util::CSet> ParentsByLoad(CZelData const& model, SelType kind,
     if (list.TypeOf() != kind) continue;
     auto const& items = Util::Item(list, model, -1, false);
     auto& set = sets[static_cast<std::size_t>(n) - 1];
-    // Nothing but parents is ever looked for.
-    for (auto const& [parent, subs] : pieces)
-      if (items.IsItemIncluded(parent)) set.AddTo(parent);
+    // Nothing but parents is ever looked for. Whichever is shorter is walked.
+    if (static_cast<std::size_t>(items.NumItem()) < pieces.size()) {
+      for (int const item : items)
+        if (pieces.contains(item)) set.AddTo(item);
+    } else {
+      for (auto const& [parent, subs] : pieces)
+        if (items.IsItemIncluded(parent)) set.AddTo(parent);
+    }
   }
   return sets;
 }

@@ -128,26 +128,13 @@ class TARVEX_EXPORT CConnect1dEl {
   bool IsSomeSplitsSkipped() const { return m_someSplitsSkipped; }
 
  private:
-  struct Line;
+  class Run;
 
   int SetCoor(int node, Vec3<double> point);
   int DoSplit(int node, int entity, double length, double ratio, double position);
   int SplitElement(int node, int element);
   int SplitMember(int node, int member);
   int Topo(int entity, int index) const;
-
-  /// Whether an entity can be connected to others, or others to it.
-  bool CanBeFirst(int entity) const;
-  bool CanBeSecond(int entity) const;
-  /// Reads a side of an entity. @return false when one of its nodes does not exist.
-  bool LineOf(int entity, int side, bool zones, Line& line) const;
-  /// Connects one side of an entity with all others. @return false when the entity has gone.
-  bool ConnectSide(int entity, bool plate, int side);
-  bool Cross(Line const& first, Line const& second);
-  void TouchCorner(int corner, Line const& line);
-  /// The node at which two lines meet.
-  int MeetingNode(Line const& first, Line const& second, double r1, double r2);
-  void Grow(int highest);
 
   CZelData& m_model;
   SelType m_entType = SelElement;
@@ -160,8 +147,6 @@ class TARVEX_EXPORT CConnect1dEl {
   bool m_someSplitsSkipped = false;
   Util::CSet m_set;
   CString m_text;  // kept for applications that name their runs
-  bool m_changed = false;
-  int m_highest = 0;
 };
 
 }  // namespace Tarvex

@@ -117,7 +117,12 @@ TEST(ConversionProperty, LeavesElementsThatAreNotInTheSet) {
 TEST(ConversionProperty, QuadraticThenLinearRestoresTheModel) {
   int restored = 0;
   ForEachRandomModel(kModels, [&](CZelData before, Random& random) {
+    // What holds nodes by lists of words, "all" among them, would hold the new ones.
     before.DeleteRigid(0, 1);
+    before.DeleteTiedInterface(0, 1);
+    before.DeleteRaftInteraction(0, 1);
+    before.DeletePileInteraction(0, 1);
+    before.BlankAssembly(1, before.HighestAssembly());
     Util::CSet linear(SelElement);
     for (int const n : AnyElements(before, random))
       if (before.ElemExist(n) && (before.Elem(n).Type() == ElementType::Quad4 ||

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "store/numeric/dir_cos.h"
+#include "store/record/spec.h"
 #include "tests/members/plate_support.h"
 #include "tests/support/random_model.h"
 
@@ -52,6 +53,10 @@ inline int CornersOf(CZelData const& model, int n) { return model.Elem(n).Shape(
 
 /// Uniform, linear, edge and point loads of several cases on elements of a plate.
 inline void AddPlateLoads(CZelData& model, Random& random) {
+  // A point load goes to a piece that it lies in, not to one that it lies close to.
+  auto spec = model.Spec();
+  spec.SetGenTol(TolType::PointInElement, 0);
+  model.SetSpec(spec);
   auto const direction = [&] { return static_cast<Direction>(random.Int(1, 3)); };
   auto const on = [&](auto load, Data::CEntList const& list) {
     load.SetLoadCase(random.Int(1, 3));

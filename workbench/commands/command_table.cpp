@@ -1,11 +1,15 @@
 #include "workbench/commands/command.h"
+#include "workbench/commands/conversion.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
 #include "workbench/commands/picture.h"
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
+#include "workbench/commands/references.h"
+#include "workbench/commands/refinement.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/split_connect.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -13,8 +17,10 @@ namespace {
 
 std::vector<Command> MakeTable() {
   std::vector<Command> table;
-  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
-                             OrientationCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family :
+       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
+        OrientationCommands(), ReferenceUpdateCommands(), SplitConnectCommands(),
+        ConversionCommands(), RefinementCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   return table;
 }

@@ -1,0 +1,189 @@
+#include "workbench/commands/references.h"
+
+#include "tests/workbench/run.h"
+
+namespace Tarvex::ReferencesTest {
+namespace {
+
+using Testing::RunTarvex;
+using Json = nlohmann::json;
+
+/// Beams 7 from 0 to 10 and 8, 9 on its two parts, plate 20 with halves 21, 22, member 1 with the
+/// parts 2 and 3; a panel on the plate; loads, a list, a rigid constraint, a joint.
+std::string Model() {
+  return Testing::kHeader + R"(,
+"Node": [
+{"n": 1, "position": [0, 0, 0]}, {"n": 2, "position": [10, 0, 0]}, {"n": 3, "position": [4, 0, 0]},
+{"n": 4, "position": [0, 1, 0]}, {"n": 5, "position": [10, 1, 0]}, {"n": 6, "position": [4, 1, 0]}],
+"Elem": [
+{"n": 7, "type": 2, "topology": [1, 2]}, {"n": 8, "type": 2, "topology": [1, 3]},
+{"n": 9, "type": 2, "topology": [3, 2]}, {"n": 20, "type": 5, "topology": [1, 2, 5, 4]},
+{"n": 21, "type": 5, "topology": [1, 3, 6, 4]}, {"n": 22, "type": 5, "topology": [3, 2, 5, 6]}],
+"LoadPanel": [{"n": 30, "topology": [1, 2, 5, 4]}],
+"Member": [
+{"n": 1, "type": 1, "topology": "1 2"}, {"n": 2, "type": 1, "topology": "1 3"},
+{"n": 3, "type": 1, "topology": "3 2"}],
+"List": [{"n": 1, "kind": 2, "text": "7"}, {"n": 2, "kind": 1, "text": "2 4"}],
+"Rigid": [{"primaryNode": 2, "constrainedNodes": "5"}],
+"Joint": [{"primaryNode": 1, "constrainedNode": 2}],
+"BeamLoad": [
+{"loadedEntities": {"kind": 2, "text": "7"}, "type": 3, "value": [0, 10]},
+{"loadedEntities": {"kind": 3, "text": "1"}, "type": 2, "value": [5, 0]}],
+"FaceLoad": [{"loadedEntities": {"kind": 2, "text": "20"}, "type": 1, "value": [3, 0, 0, 0]}]
+}
+)";
+}
+
+class ReferencesCommand : public Testing::RunTest {
+ protected:
+  /// Runs a command with a map, writes out.json, and gives the whole report.
+  Json RunOn(std::vector<std::string> words, std::string const& map, int exit = 0,
+             std::string const& text = Model()) {
+    words.insert(words.begin() + 1, Write("in.json", text));
+    words.insert(words.end(),
+                 {"--map", Write("numbers.map", map), "-o", Path("out.json"), "--force", "--json"});
+    auto const result = RunTarvex(words);
+    EXPECT_EQ(result.exit, exit) << result.out << result.err;
+    return result.Json();
+  }
+  Json Out() const { return Json::parse(Read("out.json")); }
+  std::string LoadText(char const* table, std::size_t place) const {
+    return Out().at(table).at(place).at("loadedEntities").at("text").get<std::string>();
+  }
+};
+
+TEST_F(ReferencesCommand, ReplaceElementsTakesListsAndAllLoadsAlong) {
+  auto const report = RunOn({"replace-elements"}, "7 8 9\n");
+  EXPECT_EQ(report.at("data").at("did"), true);
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "8 9");
+  EXPECT_EQ(LoadText("BeamLoad", 0), "8 9");
+}
+
+TEST_F(ReferencesCommand, ReplaceElementsMapsLoadsByWhatLiesOnThePieces) {
+  RunOn({"replace-elements", "--map-loads"}, "7 8 9  # the girder\n\n# the slab\n20 21 22\n");
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "8 9");
+  ASSERT_EQ(Out().at("BeamLoad").size(), 3);
+  EXPECT_EQ(LoadText("BeamLoad", 1), "8");
+  EXPECT_EQ(Out().at("BeamLoad").at(1).at("value"), Json({0, 4}));
+  EXPECT_EQ(Out().at("BeamLoad").at(2).at("value"), Json({4, 10}));
+  EXPECT_EQ(LoadText("FaceLoad", 0), "21 22");
+}
+
+TEST_F(ReferencesCommand, ReplaceNodesReportsWhatStillNamesTheOldNode) {
+  auto const report = RunOn({"replace-nodes"}, "2 3\n", 1);
+  EXPECT_EQ(Out().at("List").at(1).at("text"), "3 4");
+  EXPECT_EQ(Out().at("Joint").at(0).at("constrainedNode"), 3);
+  EXPECT_EQ(Out().at("Elem").at(0).at("topology"), Json({1, 3}));
+  auto const undone = report.at("data").at("undone");
+  ASSERT_EQ(undone.size(), 2);
+  EXPECT_EQ(undone.at(0),
+            Json({{"table", "LoadPanel"}, {"number", 30}, {"why", "it still names node 2"}}));
+  EXPECT_EQ(undone.at(1),
+            Json({{"table", "Rigid"}, {"number", 1}, {"why", "it still names node 2"}}));
+}
+
+TEST_F(ReferencesCommand, ReplaceNodesLeavesElementsAloneWhenTold) {
+  RunOn({"replace-nodes", "--no-entities"}, "3 6\n");
+  EXPECT_EQ(Out().at("Elem").at(1).at("topology"), Json({1, 3}));
+}
+
+TEST_F(ReferencesCommand, CopyReferencesAddsCopiesByKindAndFlag) {
+  RunOn({"copy-references"}, "7 8\n");
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "7 8");
+  EXPECT_EQ(LoadText("BeamLoad", 0), "7 8");
+  RunOn({"copy-references", "--no-lists"}, "7 8\n");
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "7");
+  RunOn({"copy-references", "--no-loads"}, "7 8\n");
+  EXPECT_EQ(LoadText("BeamLoad", 0), "7");
+  RunOn({"copy-references", "--kind", "node"}, "1 3\n2 6\n");
+  EXPECT_EQ(Out().at("List").at(1).at("text"), "2 4 6");
+  EXPECT_EQ(Out().at("Joint").size(), 2);
+  RunOn({"copy-references", "--kind", "node", "--no-constraints"}, "1 3\n2 6\n");
+  EXPECT_EQ(Out().at("Joint").size(), 1);
+}
+
+TEST_F(ReferencesCommand, MapLoadsLeavesReferencesAlone) {
+  RunOn({"map-loads"}, "7 8 9\n");
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "7");
+  EXPECT_EQ(Out().at("BeamLoad").size(), 3);
+}
+
+TEST_F(ReferencesCommand, MapLoadsOfMembersReportsWhatMembersDoNotTake) {
+  RunOn({"map-loads", "--kind", "member"}, "1 2 3\n");
+  EXPECT_EQ(LoadText("BeamLoad", 1), "2 3");
+  auto text = Model();
+  text.replace(text.find(R"("type": 2, "value": [5, 0])"), 9, R"("type": 1)");
+  auto const report = RunOn({"map-loads", "--kind", "member"}, "1 2 3\n", 1, text);
+  auto const undone = report.at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0).at("number"), 2);
+  EXPECT_EQ(undone.at(0).at("why"), "members take uniform loads only: it is taken off the member");
+}
+
+TEST_F(ReferencesCommand, MapLoadsReportsALoadOnARange) {
+  auto text = Model();
+  text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "6 to 7")");
+  auto const report = RunOn({"map-loads"}, "7 8 9\n", 1, text);
+  auto const undone = report.at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
+  EXPECT_EQ(undone.at(0).at("number"), 1);
+  EXPECT_EQ(LoadText("BeamLoad", 0), "6 to 7");
+}
+
+TEST_F(ReferencesCommand, RefusesNumbersThatDoNotExist) {
+  auto const text = [](Json const& report) {
+    return report.at("error").at("text").get<std::string>();
+  };
+  EXPECT_EQ(text(RunOn({"replace-elements"}, "7 99\n", 3)), "element 99 does not exist");
+  EXPECT_EQ(text(RunOn({"replace-nodes"}, "1 99\n", 3)), "node 99 does not exist");
+  EXPECT_EQ(text(RunOn({"map-loads"}, "98 8\n", 3)), "element 98 does not exist");
+  EXPECT_EQ(text(RunOn({"map-loads", "--kind", "member"}, "9 1\n", 3)), "member 9 does not exist");
+  EXPECT_EQ(text(RunOn({"map-loads"}, "7 7 8\n", 3)), "number 7 is an old and a new one");
+  EXPECT_FALSE(Exists("out.json"));
+}
+
+TEST_F(ReferencesCommand, TellsWhereAMapIsFaulty) {
+  struct Case {
+    std::string map;
+    int line;
+    int column;
+    std::string text;
+  };
+  for (auto const& [map, line, column, text] :
+       {Case{"7 8\n8 x9\n", 2, 3, "'x9' is no number from 1 to 100000000"},
+        Case{"7 0\n", 1, 3, "'0' is no number from 1 to 100000000"},
+        Case{"7 -1\n", 1, 3, "'-1' is no number from 1 to 100000000"},
+        Case{"7 100000001\n", 1, 3, "'100000001' is no number from 1 to 100000000"},
+        Case{"7 8\n\n7 9\n", 3, 1, "number 7 comes a second time"}}) {
+    auto const error = RunOn({"replace-elements"}, map, 4).at("error");
+    EXPECT_EQ(error.at("text"), text);
+    EXPECT_EQ(error.at("line"), line);
+    EXPECT_EQ(error.at("column"), column);
+  }
+  EXPECT_EQ(RunOn({"copy-references"}, "7\n", 4).at("error").at("text"), "a new number is missing");
+  EXPECT_EQ(RunOn({"copy-references"}, "7 8 9\n", 4).at("error").at("text"),
+            "more than one new number");
+}
+
+TEST_F(ReferencesCommand, WantsAMap) {
+  auto const model = Write("in.json", Model());
+  for (auto const* command : {"replace-nodes", "replace-elements", "copy-references", "map-loads"})
+    EXPECT_EQ(RunTarvex({command, model, "--dry-run"}).exit, 2);
+  EXPECT_EQ(RunTarvex({"map-loads", model, "--map", Path("none"), "--dry-run"}).exit, 4);
+}
+
+TEST_F(ReferencesCommand, TakesAnEmptyMap) {
+  auto const report = RunOn({"replace-elements"}, "# nothing\n");
+  EXPECT_EQ(report.at("data").at("did"), false);
+  EXPECT_EQ(report.at("data").at("changes"), Json::object());
+}
+
+TEST_F(ReferencesCommand, RemovesANumberWithoutANewOneFromLists) {
+  RunOn({"replace-elements"}, "7\n");
+  EXPECT_EQ(Out().count("List"), 1);
+  EXPECT_EQ(Out().at("List").size(), 1);
+}
+
+}  // namespace
+}  // namespace Tarvex::ReferencesTest

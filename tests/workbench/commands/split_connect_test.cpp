@@ -1,0 +1,130 @@
+#include "workbench/commands/split_connect.h"
+
+#include "tests/workbench/run.h"
+
+namespace Tarvex::SplitConnectTest {
+namespace {
+
+using Testing::RunTarvex;
+using Json = nlohmann::json;
+
+/// Beam 7 along x, a child of member 1; beam 8 across it, rigid for 1 at its start; member 2 across
+/// member 1; a linear load on 7 and a list of it.
+std::string Model() {
+  return Testing::kHeader + R"(,
+"Node": [
+{"n": 1, "position": [0, 0, 0]}, {"n": 2, "position": [10, 0, 0]},
+{"n": 3, "position": [4, -3, 0]}, {"n": 4, "position": [4, 3, 0]}],
+"Elem": [
+{"n": 7, "type": 2, "topology": [1, 2], "parentMember": {"member": 1}},
+{"n": 8, "type": 2, "topology": [3, 4], "offset": {"x1": 1}}],
+"Member": [
+{"n": 1, "type": 1, "topology": "1 2", "children": [[0, 7]]}, {"n": 2, "type": 1, "topology": "3 4"}],
+"List": [{"n": 1, "kind": 2, "text": "7"}],
+"BeamLoad": [{"loadedEntities": {"kind": 2, "text": "7"}, "type": 3, "value": [0, 10]}]
+}
+)";
+}
+
+class SplitConnectCommand : public Testing::RunTest {
+ protected:
+  Json RunOn(std::vector<std::string> words, int exit = 0, std::string const& text = Model()) {
+    words.insert(words.begin() + 1, Write("in.json", text));
+    words.insert(words.end(), {"-o", Path("out.json"), "--force", "--json"});
+    auto const result = RunTarvex(words);
+    EXPECT_EQ(result.exit, exit) << result.out << result.err;
+    return result.Json();
+  }
+  Json Out() const { return Json::parse(Read("out.json")); }
+};
+
+TEST_F(SplitConnectCommand, SplitCutsABeamAndTakesLoadsAndReferencesAlong) {
+  auto const report = RunOn({"split", "--list", "7", "--at", "4"});
+  auto const& data = report.at("data");
+  EXPECT_EQ(data.at("did"), true);
+  EXPECT_EQ(data.at("result"),
+            Json::parse(R"({"splits": [{"number": 7, "node": 5, "created": [10, 9]}]})"));
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "9 10");
+  ASSERT_EQ(Out().at("BeamLoad").size(), 2);
+  EXPECT_EQ(Out().at("BeamLoad").at(0).at("value"), Json({0, 4}));
+  // Neither piece is listed with the member that they were made from.
+  ASSERT_EQ(report.at("warnings").size(), 2);
+  EXPECT_EQ(report.at("warnings").at(0).at("code"), "unlisted-piece");
+  EXPECT_EQ(report.at("warnings").at(0).at("number"), 9);
+}
+
+TEST_F(SplitConnectCommand, SplitLeavesReferencesAloneWhenTold) {
+  RunOn({"split", "--list", "7", "--at", "4", "--no-references"});
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "7");
+  EXPECT_EQ(Out().at("BeamLoad").size(), 1);
+}
+
+TEST_F(SplitConnectCommand, SplitReportsWhatItLeaves) {
+  auto text = Model();
+  text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "6 to 7")");
+  auto const data = RunOn({"split", "--at", "0.5"}, 1, text).at("data");
+  auto const undone = data.at("undone");
+  ASSERT_EQ(undone.size(), 2);
+  EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
+  EXPECT_EQ(
+      undone.at(1),
+      Json({{"table", "Elem"}, {"number", 8}, {"why", "the place is within a rigid offset"}}));
+}
+
+TEST_F(SplitConnectCommand, SplitExtendsMembers) {
+  RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"});
+  EXPECT_EQ(Out().at("Member").size(), 2);
+  auto const data =
+      RunOn({"split", "--kind", "member", "--list", "1", "--at=-2", "--extend"}).at("data");
+  EXPECT_EQ(data.at("result").at("splits").at(0).at("created"), Json({1, 3}));
+  EXPECT_EQ(Out().at("Member").at(2).at("topology"), "5 2");
+}
+
+TEST_F(SplitConnectCommand, SplitTakesANodeWithinTheCoincidenceTolerance) {
+  auto text = Model();
+  text.replace(text.find("[4, -3, 0]"), 10, "[4, 0.1, 0]");
+  auto const data =
+      RunOn({"split", "--list", "7", "--at", "4", "--coincidence", "0.2"}, 0, text).at("data");
+  EXPECT_EQ(data.at("result").at("splits").at(0).at("node"), 3);
+  EXPECT_EQ(data.at("tolerances").at(0),
+            Json({{"name", "coincidence"}, {"value", 0.2}, {"unit", "m"}}));
+}
+
+TEST_F(SplitConnectCommand, SplitWantsAPlace) {
+  auto const model = Write("in.json", Model());
+  EXPECT_EQ(RunTarvex({"split", model, "--dry-run"}).exit, 2);
+  EXPECT_EQ(RunTarvex({"split", model, "--at", "x", "--dry-run"}).exit, 2);
+  EXPECT_EQ(RunTarvex({"split", model, "--at", "nan", "--dry-run"}).exit, 2);
+}
+
+TEST_F(SplitConnectCommand, ConnectCutsLinesThatCross) {
+  auto const data = RunOn({"connect"}).at("data");
+  EXPECT_EQ(data.at("did"), true);
+  EXPECT_EQ(data.at("changes").at("Elem"),
+            Json::parse(R"({"added": [9, 10, 11, 12], "removed": [7, 8], "changed": []})"));
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "11 12");
+  EXPECT_EQ(data.at("tolerances").size(), 3);
+}
+
+TEST_F(SplitConnectCommand, ConnectReportsMeetingsWithinAnOffset) {
+  auto const data = RunOn({"connect", "--end-tol", "2.5"}, 1).at("data");
+  EXPECT_EQ(data.at("did"), false);
+  EXPECT_EQ(data.at("messages").size(), 1);
+}
+
+TEST_F(SplitConnectCommand, ConnectReportsALoadThatIsLeft) {
+  auto text = Model();
+  text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "6 to 7")");
+  auto const undone = RunOn({"connect"}, 1, text).at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
+}
+
+TEST_F(SplitConnectCommand, ConnectCutsMembersAndWarnsOfTheirReferences) {
+  auto const report = RunOn({"connect", "--kind", "member"});
+  EXPECT_EQ(report.at("data").at("changes").at("Member").at("removed"), Json({1, 2}));
+  EXPECT_EQ(report.at("warnings").at(0).at("code"), "member-references");
+}
+
+}  // namespace
+}  // namespace Tarvex::SplitConnectTest

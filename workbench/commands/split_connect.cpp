@@ -1,0 +1,145 @@
+#include "workbench/commands/split_connect.h"
+
+#include <array>
+#include <nlohmann/json.hpp>
+
+#include "store/record/element.h"
+#include "store/record/member.h"
+#include "tarvex/split_connect.h"
+#include "workbench/commands/errors.h"
+#include "workbench/commands/selection.h"
+#include "workbench/commands/unlisted_pieces.h"
+#include "workbench/commands/unmapped_loads.h"
+#include "workbench/report/text.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr Option kEntities{"--list", "TEXT", ValueKind::Text, "all",
+                           "the entities to work on, as a list text"};
+constexpr Option kLineKind{"--kind", "element|member", ValueKind::Choice, "element",
+                           "what the list names"};
+constexpr Option kNoReferences{"--no-references", "", ValueKind::Flag, "false",
+                               "leave loads and references on the old numbers"};
+constexpr Option kCoincidence{"--coincidence",
+                              "L",
+                              ValueKind::Number,
+                              "0",
+                              "a node within this distance in m is taken instead of a new one",
+                              0};
+
+constexpr std::array kSplitOptions{
+    kEntities,
+    kLineKind,
+    Option{"--at", "L", ValueKind::Text, "",
+           "distance of the cut from the first node in m; below 0 or beyond the end it is outside"},
+    Option{"--extend", "", ValueKind::Flag, "false", "extend to a place that is outside"},
+    kCoincidence,
+    kNoReferences};
+constexpr std::array kConnectOptions{
+    kEntities,
+    kLineKind,
+    Option{"--tol", "L", ValueKind::Number, "0.001", "lines closer than this in m meet", 0},
+    Option{"--end-tol", "L", ValueKind::Number, "0.01",
+           "a meeting this near to an end in m is the end; so far must it be from a rigid offset",
+           0},
+    kCoincidence,
+    kNoReferences};
+
+char const* LineTable(SelType kind) { return kind == SelMember ? "Member" : "Elem"; }
+
+double RequiredLength(Arguments const& arguments, char const* option) {
+  constexpr std::array kAt{Option{"--at", "L", ValueKind::Number, "", ""}};
+  if (arguments.Text(option).empty()) throw UsageError(std::string(option) + ": give a distance");
+  return Arguments(kAt, {{option, arguments.Text(option)}}).Number(option);
+}
+
+/// Why an entity gave no split node and was no cut within an offset.
+char const* WhyNotSplit(CZelData const& model, SEntRef ref) {
+  return model.EntIs1D(ref) ? "it has no length, or a node of it does not exist"
+                            : "it is no 1D entity";
+}
+
+/// Cuts one entity. @return its row of the result; empty when it could not be cut.
+Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& arguments,
+              CommandResult& result) {
+  bool const references = !arguments.Flag("--no-references");
+  auto const unmappable = references && ref.type == SelElement
+                              ? FindUnmappableLoads(model, SelElement, {ref.num})
+                              : std::vector<Undone>();
+  CSplit1dEl tool(model);
+  tool.SetReplaceElemRef(references);
+  tool.SetCoincidenceTol(arguments.Number("--coincidence"));
+  std::vector<int> created;
+  if (!model.EntIs1D(ref) || !tool.Do(ref, position, arguments.Flag("--extend"), created)) {
+    result.undone.push_back({LineTable(ref.type), ref.num,
+                             tool.IsSomeSplitsSkipped() ? "the place is within a rigid offset"
+                                                        : WhyNotSplit(model, ref)});
+    return {};
+  }
+  ReportUnmapped(unmappable, tool.IsAllLoadsMapped(), result);
+  return {{"number", ref.num}, {"node", tool.SplitNode()}, {"created", created}};
+}
+
+void Split(CZelData& model, Arguments const& arguments, CommandResult& result) {
+  double const position = RequiredLength(arguments, "--at");
+  auto const kind = KindOf(arguments.Text("--kind"));
+  auto const set = SelectByOptions(model, kind, arguments, result);
+  CZelData const before(model);
+  Json rows = Json::array();
+  for (int const n : set) {
+    auto row = SplitOne(model, {kind, n}, position, arguments, result);
+    if (row.empty()) continue;
+    result.text += SelTypeLabel(kind).ToUtf8() + " " + std::to_string(n) + ": node " +
+                   std::to_string(row.at("node").get<int>()) + "\n";
+    rows.push_back(std::move(row));
+  }
+  result.did = !(model == before);
+  result.result = std::make_shared<Json>(Json{{"splits", std::move(rows)}});
+  result.tolerances.push_back({"coincidence", arguments.Number("--coincidence"), "m"});
+  WarnOfUnlistedPieces(before, model, result);
+}
+
+void Connect(CZelData& model, Arguments const& arguments, CommandResult& result) {
+  auto const kind = KindOf(arguments.Text("--kind"));
+  auto const set = SelectByOptions(model, kind, arguments, result);
+  bool const references = !arguments.Flag("--no-references");
+  CZelData const before(model);
+  CConnect1dEl tool(model);
+  tool.SetEntType(kind);
+  tool.SetSet(set);
+  tool.SetTol(arguments.Number("--tol"), arguments.Number("--end-tol"));
+  tool.SetCoincidenceTol(arguments.Number("--coincidence"));
+  tool.SetReplaceElemRef(references);
+  result.did = tool.Do();
+  std::set<int> cut;
+  for (int const n : set)
+    if (!model.EntExist({kind, n})) cut.insert(n);
+  ReportUnmapped(FindUnmappableLoads(before, kind, cut), tool.IsAllLoadsMapped(), result);
+  if (tool.IsSomeSplitsSkipped()) {
+    result.messages.push_back("some meetings are within a rigid offset and were left alone");
+    result.lookAt = true;
+  }
+  if (kind == SelMember && references && result.did)
+    result.warnings.push_back({"member-references", "Member", 0,
+                               "loads and references of members stay on the old numbers"});
+  result.tolerances.push_back({"connection", arguments.Number("--tol"), "m"});
+  result.tolerances.push_back({"end", arguments.Number("--end-tol"), "m"});
+  result.tolerances.push_back({"coincidence", arguments.Number("--coincidence"), "m"});
+  WarnOfUnlistedPieces(before, model, result);
+}
+
+constexpr std::array kSplitConnectCommands{
+    Command{"split", "cut 1D elements at a distance from their start, or extend 1D entities",
+            kSplitOptions, CommandKind::Changes, &Split},
+    Command{"connect", "cut 1D entities where they cross or touch corners of plates",
+            kConnectOptions, CommandKind::Changes, &Connect},
+};
+
+}  // namespace
+
+std::span<Command const> SplitConnectCommands() { return kSplitConnectCommands; }
+
+}  // namespace Tarvex::Workbench

@@ -1,0 +1,75 @@
+#include "workbench/commands/unmapped_loads.h"
+
+#include "store/model/list_expansion.h"
+#include "store/record/beam_loads.h"
+#include "store/record/body_loads.h"
+#include "store/record/face_loads.h"
+
+namespace Tarvex::Workbench {
+namespace {
+
+using Data::CEntList;
+
+bool IsPlain(CEntList const& list) {
+  int count = 0;
+  Util::CSet set;
+  return list.CheckSimpleList(count, set) && count == list.NumWord();
+}
+
+bool IsOnAny(CZelData const& model, CEntList const& list, SelType kind,
+             std::set<int> const& numbers) {
+  for (int const number : numbers)
+    if (Util::IsItemIncluded(list, {kind, number}, model)) return true;
+  return false;
+}
+
+/// Whether members take a load of the kind: uniform ones only.
+bool IsForMembers(Data::CBeamLoad const& load) {
+  return load.TypeOf() == Data::CBeamLoad::LoadType::Uniform;
+}
+template <class Load>
+bool IsForMembers(Load const&) {
+  return false;
+}
+
+template <class Load>
+void FindIn(std::vector<Load> const& loads, char const* table, CZelData const& model, SelType kind,
+            std::set<int> const& parents, std::vector<Undone>& found) {
+  int n = 0;
+  for (auto const& load : loads) {
+    ++n;
+    auto const& list = load.LoadedEntities();
+    if (!IsOnAny(model, list, kind, parents)) continue;
+    if (!IsPlain(list))
+      found.push_back({table, n, "its list is more than plain numbers: it is left as it is"});
+    else if (kind == SelMember && !IsForMembers(load))
+      found.push_back({table, n, "members take uniform loads only: it is taken off the member"});
+  }
+}
+
+}  // namespace
+
+std::vector<Undone> FindUnmappableLoads(CZelData const& model, SelType kind,
+                                        std::set<int> const& parents) {
+  std::vector<Undone> found;
+  FindIn(model.BeamLoad(), "BeamLoad", model, kind, parents, found);
+  FindIn(model.BeamDist(), "BeamDist", model, kind, parents, found);
+  if (kind == SelMember) return found;
+  FindIn(model.FaceLoad(), "FaceLoad", model, kind, parents, found);
+  FindIn(model.EdgeLoad(), "EdgeLoad", model, kind, parents, found);
+  FindIn(model.FaceThermalLoad(), "FaceThermalLoad", model, kind, parents, found);
+  FindIn(model.BodyFaceLoad(), "BodyFaceLoad", model, kind, parents, found);
+  FindIn(model.BodyThermalLoad(), "BodyThermalLoad", model, kind, parents, found);
+  return found;
+}
+
+void ReportUnmapped(std::vector<Undone> const& loads, bool allMapped, CommandResult& result) {
+  if (allMapped) return;
+  result.undone.insert(result.undone.end(), loads.begin(), loads.end());
+  if (!loads.empty()) return;
+  result.messages.push_back(
+      "some loads could not be mapped: a value or a co-ordinate is not usable");
+  result.lookAt = true;
+}
+
+}  // namespace Tarvex::Workbench
