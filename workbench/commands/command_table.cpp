@@ -4,6 +4,7 @@
 #include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
 #include "workbench/commands/disconnect.h"
+#include "workbench/commands/conversion.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
@@ -16,6 +17,9 @@
 #include "workbench/commands/split_connect.h"
 #include "workbench/commands/tidy.h"
 #include "workbench/commands/slabs.h"
+#include "workbench/commands/refinement.h"
+#include "workbench/commands/selection.h"
+#include "workbench/commands/split_connect.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -39,6 +43,10 @@ std::vector<Command> MakeTable() {
   for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
                              PictureCommands(), OrientationCommands(), SlabCommands(),
                              DisconnectCommands(), RecipeCommands(), ReferenceCommands()})
+  for (auto const& family :
+       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
+        OrientationCommands(), ReferenceUpdateCommands(), SplitConnectCommands(),
+        ConversionCommands(), RefinementCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   }
   return table;

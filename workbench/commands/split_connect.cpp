@@ -1,6 +1,5 @@
 #include "workbench/commands/split_connect.h"
 
-#include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
 
@@ -9,6 +8,7 @@
 #include "tarvex/split_connect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/unlisted_pieces.h"
 #include "workbench/commands/unmapped_loads.h"
 #include "workbench/report/text.h"
 
@@ -54,23 +54,6 @@ double RequiredLength(Arguments const& arguments, char const* option) {
   constexpr std::array kAt{Option{"--at", "L", ValueKind::Number, "", ""}};
   if (arguments.Text(option).empty()) throw UsageError(std::string(option) + ": give a distance");
   return Arguments(kAt, {{option, arguments.Text(option)}}).Number(option);
-}
-
-/// Warns of new elements that bear the number of a member which does not list them.
-void WarnOfUnlistedPieces(CZelData const& before, CZelData const& model, CommandResult& result) {
-  for (auto const& [number, element] : model.Elem()) {
-    int const n = static_cast<int>(number);
-    int const member = element.ParentMember().member;
-    if (n <= before.HighestElem() || member == 0 || !model.MemberExist(member)) continue;
-    bool listed = false;
-    for (auto const& [replica, children] : model.Member(member).ChildElements())
-      listed = listed || std::find(children.begin(), children.end(), n) != children.end();
-    if (!listed)
-      result.warnings.push_back({"unlisted-piece", "Elem", n,
-                                 "element " + std::to_string(n) +
-                                     " is a piece of a child of member " + std::to_string(member) +
-                                     ", which does not list it"});
-  }
 }
 
 /// Why an entity gave no split node and was no cut within an offset.

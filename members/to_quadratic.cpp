@@ -1,0 +1,115 @@
+// Plates with a node in the middle of each side.
+#include "frame/rebuild_hold.h"
+#include "members/edge_middles.h"
+#include "members/plate_corners.h"
+#include "members/rigid_followers.h"
+#include "tarvex/coincidence.h"
+#include "tarvex/conversion.h"
+
+namespace Tarvex {
+namespace {
+
+/// New nodes fold into nodes that are nearer than this, model length units.
+constexpr double kFoldTolerance = 1e-5;
+constexpr int kWholeModel = 0;  // the stage whose joints keep nodes apart
+
+/// One run over the elements of a set.
+class MiddleRun {
+ public:
+  MiddleRun(CZelData& model, Util::CSet const& elements)
+      : m_model(model),
+        m_edges(kEdgesPerElement * static_cast<std::size_t>(elements.NumItem())),
+        m_rigids(model) {
+    m_bystanders.Invert(1, model.HighestNode());
+    m_highestOld = model.HighestNode();
+  }
+
+  void Raise(int n) {
+    auto element = m_model.Elem(n);
+    if (element.Type() != ElementType::Tri3 && element.Type() != ElementType::Quad4) return;
+    int const corners = element.Shape().corners;
+    if (!HasOldCorners(element, corners)) return;
+    bool const released = element.IsConnect();
+    element.SetType(element.Shape().quadratic);
+    for (int i = 0; i < corners; ++i) {
+      int const a = element.Topo(i);
+      int const b = element.Topo((i + 1) % corners);
+      m_bystanders.RemoveFrom(a);
+      element.SetTopo(corners + i, MiddleOf(a, b));
+    }
+    if (released) ReleaseMiddles(element, corners);
+    m_model.SetElem(n, element);
+  }
+
+  void Finish() {
+    m_rigids.Store();
+    Fold();
+  }
+
+ private:
+  static constexpr std::size_t kEdgesPerElement = 2;  // of a mesh of quadrilaterals
+
+  /// A number behind the highest may become that of a new node, which is no corner.
+  bool HasOldCorners(Data::CElement const& element, int corners) const {
+    for (int i = 0; i < corners; ++i)
+      if (element.Topo(i) > m_highestOld) return false;
+    return HasCorners(m_model, element, corners);
+  }
+
+  int MiddleOf(int a, int b) {
+    if (int const known = m_edges.Find(a, b); known > 0) return known;
+    auto const& start = m_model.Node(a);
+    auto const& end = m_model.Node(b);
+    bool const sameAxis = start.Axis() == end.Axis();
+    Data::CNode node((start.Position() + end.Position()) * 0.5, 0, Vbool6());
+    if (sameAxis) {
+      node.SetAxis(start.Axis());
+      node.SetRestraint(start.Restraint() & end.Restraint());
+    }
+    int const number = m_model.HighestNode() + 1;
+    m_model.SetNode(number, node);
+    m_edges.Add(a, b, number);
+    if (sameAxis) m_rigids.Join(a, b, number);
+    return number;
+  }
+
+  static void ReleaseMiddles(Data::CElement& element, int corners) {
+    for (int i = 0; i < corners; ++i) {
+      auto const start = element.Connect(i).Release();
+      auto const end = element.Connect((i + 1) % corners).Release();
+      element.SetConnect(corners + i, CElemConnect(start & end));
+    }
+  }
+
+  /// Merges new nodes into nodes that stand there and were no corner of the run. The new nodes are
+  /// not in the search set, so that none folds into another.
+  void Fold() {
+    CReduceCoinc reduce(m_model, kFoldTolerance, kWholeModel);
+    if (!reduce.SetSearchSet(m_bystanders, CReduceCoinc::kWholeSearch)) return;
+    reduce.Do(m_highestOld + 1, m_model.HighestNode() - m_highestOld);
+  }
+
+  CZelData& m_model;
+  EdgeMiddles m_edges;
+  RigidFollowers m_rigids;
+  Util::CSet m_bystanders{SelNode};  // nodes that are no corner of an element of the run
+  int m_highestOld = 0;
+};
+
+}  // namespace
+
+CMod2DToQuadratic::CMod2DToQuadratic(CZelData& model) : OrderTool(model) {}
+CMod2DToQuadratic::CMod2DToQuadratic(CMod2DToQuadratic const&) = default;
+CMod2DToQuadratic::CMod2DToQuadratic(CMod2DToQuadratic&&) noexcept = default;
+CMod2DToQuadratic::~CMod2DToQuadratic() = default;
+
+bool CMod2DToQuadratic::Do() {
+  RebuildHold const hold(m_model);
+  MiddleRun run(m_model, m_set);
+  for (int const n : m_set)
+    if (m_model.ElemExist(n)) run.Raise(n);
+  run.Finish();
+  return true;
+}
+
+}  // namespace Tarvex
