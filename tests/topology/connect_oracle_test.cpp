@@ -173,6 +173,15 @@ TEST(ConnectOracle, RandomLinesInAPlaneWithPlatesAmongThem) {
   EXPECT_GT(made, 1000);
 }
 
+TEST(ConnectOracle, AnEndThatIsMovedFromLineToLine) {
+  // The end of the stem goes from 0 to 0.25, 0.5 and 0.79: further than it was looked for at first.
+  CZelData model;
+  Util::CSet set(SelElement);
+  for (double const x : {0.25, 0.5, 0.79}) set.AddTo(BeamAt(model, {x, -5, 0}, {x, 5, 0}));
+  set.AddTo(BeamAt(model, {-5, 0, 0}, {0, 0, 0}));
+  EXPECT_EQ(Compare(model, set, 0.001, 0.3), 3 * 2 + 1);
+}
+
 TEST(ConnectOracle, AGridOfManyLinesWhereTheSearchIsBuiltAnewOnTheWay) {
   CZelData model;
   Util::CSet set(SelElement);

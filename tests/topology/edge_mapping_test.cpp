@@ -122,14 +122,28 @@ TEST(MapEdgeLoading, GivesNothingForAnEdgeWhoseChainIsOpenAndKeepsTheOthers) {
   EXPECT_EQ(Loads(model), (AllSeen{{L"80", 4, 5, 5}}));
 }
 
-TEST(MapEdgeLoading, EndsAWalkThatWouldGoRoundAndRound) {
+TEST(MapEdgeLoading, GivesNothingForAnEdgeToACornerThatNoPieceHas) {
   auto model = CutPlate(2, 2);
-  // The third corner of the parent is no corner of a piece: the walk for it never ends.
   NodeAt(model, 2, 2, 0);
   model.SetElem(kParent, Element(ElementType::Quad4, {1, 3, 10, 7}));
   for (int edge = 1; edge <= 3; ++edge) model.SetEdgeLoad(edge, EdgeLoad(edge, 1, 3));
   EXPECT_TRUE(Map(model));
   EXPECT_EQ(Loads(model), (AllSeen{{L"80", 1, 1, 2}, {L"81", 1, 2, 3}}));
+}
+
+TEST(MapEdgeLoading, EndsAWalkThatWouldGoRoundAndRound) {
+  // Four triangles round a middle node, and a parent whose third corner is no corner of theirs: the
+  // walk for it never comes to its end.
+  auto model = CutPlate(1, 1);
+  NodeAt(model, 0.5, 0.5, 0);
+  NodeAt(model, 1, 1, 0);
+  int n = kFirstPiece;
+  for (auto const& [a, b] : {std::pair(1, 2), {2, 4}, {4, 3}, {3, 1}})
+    model.SetElem(n++, Element(ElementType::Tri3, {a, b, 5}));
+  model.SetElem(kParent, Element(ElementType::Quad4, {1, 2, 6, 3}));
+  for (int edge = 1; edge <= 4; ++edge) model.SetEdgeLoad(edge, EdgeLoad(edge, 1, 3));
+  EXPECT_TRUE(Map(model));
+  EXPECT_EQ(Loads(model), (AllSeen{{L"80", 1, 1, 3}, {L"83", 1, 1, 3}}));
 }
 
 TEST(MapEdgeLoading, FollowsPiecesThatRunAsTheParentOnly) {

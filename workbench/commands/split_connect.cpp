@@ -62,6 +62,19 @@ char const* WhyNotSplit(CZelData const& model, SEntRef ref) {
                             : "it is no 1D entity";
 }
 
+/// Warns of what an element that is still there has lost, and of a new one without length.
+void WarnOfRemains(CZelData const& model, int element, bool wasOffset,
+                   std::vector<int> const& created, CommandResult& result) {
+  auto const warn = [&](char const* code, int n, char const* text) {
+    result.warnings.push_back({code, "Elem", n, "element " + std::to_string(n) + text});
+  };
+  if (wasOffset && model.ElemExist(element) && !model.Elem(element).IsOffset())
+    warn("offset-cleared", element, " has lost its offsets");
+  for (int const n : created)
+    if (model.Elem(n).Topo(0) == model.Elem(n).Topo(1))
+      warn("no-length", n, " has both its ends on the new node");
+}
+
 /// Cuts one entity. @return its row of the result; empty when it could not be cut.
 Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& arguments,
               CommandResult& result) {
@@ -73,7 +86,12 @@ Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& ar
   tool.SetReplaceElemRef(references);
   tool.SetCoincidenceTol(arguments.Number("--coincidence"));
   std::vector<int> created;
-  if (!model.EntIs1D(ref) || !tool.Do(ref, position, arguments.Flag("--extend"), created)) {
+  bool const isElement = ref.type == SelElement;
+  bool const wasOffset = isElement && model.EntIsOffset(ref);
+  bool const done =
+      model.EntIs1D(ref) && tool.Do(ref, position, arguments.Flag("--extend"), created);
+  if (isElement) WarnOfRemains(model, ref.num, wasOffset, created, result);
+  if (!done) {
     result.undone.push_back({LineTable(ref.type), ref.num,
                              tool.IsSomeSplitsSkipped() ? "the place is within a rigid offset"
                                                         : WhyNotSplit(model, ref)});

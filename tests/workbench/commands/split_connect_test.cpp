@@ -62,8 +62,8 @@ TEST_F(SplitConnectCommand, SplitLeavesReferencesAloneWhenTold) {
 TEST_F(SplitConnectCommand, SplitReportsWhatItLeaves) {
   auto text = Model();
   text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "6 to 7")");
-  auto const data = RunOn({"split", "--at", "0.5"}, 1, text).at("data");
-  auto const undone = data.at("undone");
+  auto const report = RunOn({"split", "--at", "0.5"}, 1, text);
+  auto const undone = report.at("data").at("undone");
   ASSERT_EQ(undone.size(), 2);
   EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
   EXPECT_EQ(
