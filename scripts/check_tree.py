@@ -17,14 +17,13 @@ MAY_INCLUDE = {
     "store/table": ["store/export.h", "store/text/", "store/select/"],
     "store/model": ["store/export.h", "store/text/", "store/numeric/", "store/select/",
                     "store/geometry/", "store/record/", "store/table/"],
-    "store/model": ["store/"],
     "store/calc": ["store/"],
     "include": ["store/", "tarvex/"],
     "frame": ["store/", "tarvex/"],
     "renumber": ["store/", "tarvex/", "frame/"],
     "topology": ["store/", "tarvex/", "frame/", "renumber/"],
-    "loads": ["store/", "tarvex/", "topology/"],
     "members": ["store/", "tarvex/", "frame/", "topology/"],
+    "loads": ["store/", "tarvex/", "topology/"],
     "workbench": ["store/", "tarvex/"],
 }
 # Store headers that are the store's own; workbench and tools reach the model through the others.

@@ -3,9 +3,9 @@
 
 #include "tarvex/coincidence.h"
 #include "tarvex/combinations.h"
+#include "tarvex/connect_slab.h"
 #include "tarvex/conversion.h"
 #include "tarvex/data_mgr.h"
-#include "tarvex/connect_slab.h"
 #include "tarvex/disconnect.h"
 #include "tarvex/merge_rigid.h"
 #include "tarvex/orientation.h"

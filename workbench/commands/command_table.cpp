@@ -3,8 +3,8 @@
 #include "workbench/commands/coincidence.h"
 #include "workbench/commands/combine.h"
 #include "workbench/commands/command.h"
-#include "workbench/commands/disconnect.h"
 #include "workbench/commands/conversion.h"
+#include "workbench/commands/disconnect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/inspect.h"
 #include "workbench/commands/orientation.h"
@@ -12,14 +12,12 @@
 #include "workbench/commands/recipe.h"
 #include "workbench/commands/reference.h"
 #include "workbench/commands/references.h"
+#include "workbench/commands/refinement.h"
 #include "workbench/commands/renumber.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/slabs.h"
 #include "workbench/commands/split_connect.h"
 #include "workbench/commands/tidy.h"
-#include "workbench/commands/slabs.h"
-#include "workbench/commands/refinement.h"
-#include "workbench/commands/selection.h"
-#include "workbench/commands/split_connect.h"
 #include "workbench/commands/totals.h"
 
 namespace Tarvex::Workbench {
@@ -27,9 +25,10 @@ namespace {
 
 /// The commands of each family, in the order of help.
 constexpr std::array kFamilies{
-    &InspectCommands,      &TotalsCommands,      &SelectionCommands, &PictureCommands,
-    &OrientationCommands,  &RenumberCommands,    &TidyCommands,      &ReferenceUpdateCommands,
-    &SplitConnectCommands, &CoincidenceCommands, &CombineCommands,   &RecipeCommands,
+    &InspectCommands,         &TotalsCommands,       &SelectionCommands, &PictureCommands,
+    &OrientationCommands,     &RenumberCommands,     &TidyCommands,      &CoincidenceCommands,
+    &ReferenceUpdateCommands, &SplitConnectCommands, &SlabCommands,      &DisconnectCommands,
+    &ConversionCommands,      &RefinementCommands,   &CombineCommands,   &RecipeCommands,
     &ReferenceCommands,
 };
 
@@ -37,16 +36,6 @@ std::vector<Command> MakeTable() {
   std::vector<Command> table;
   for (auto const& commands : kFamilies) {
     auto const family = commands();
-  for (auto const& family :
-       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
-        OrientationCommands(), CombineCommands(), RecipeCommands(), ReferenceCommands()})
-  for (auto const& family : {InspectCommands(), TotalsCommands(), SelectionCommands(),
-                             PictureCommands(), OrientationCommands(), SlabCommands(),
-                             DisconnectCommands(), RecipeCommands(), ReferenceCommands()})
-  for (auto const& family :
-       {InspectCommands(), TotalsCommands(), SelectionCommands(), PictureCommands(),
-        OrientationCommands(), ReferenceUpdateCommands(), SplitConnectCommands(),
-        ConversionCommands(), RefinementCommands(), RecipeCommands(), ReferenceCommands()})
     table.insert(table.end(), family.begin(), family.end());
   }
   return table;
