@@ -3,6 +3,7 @@
 
 #include "store/model/list_expansion.h"
 #include "store/model/registry.h"
+#include "store/model/undo_step.h"
 #include "store/model/zel_data.h"
 #include "store/record/block.h"
 #include "store/record/element.h"
@@ -235,8 +236,14 @@ TEST(ExplodeBlocksProperty, LeavesNoBlockAndNoDanglingReferenceAndIsTheSameAgain
       ASSERT_EQ(model.NodeExist(n), before.NodeExist(n));
     copies += static_cast<int>(expected);
     auto again = before;
-    ASSERT_EQ(Explode(again), members);
+    {
+      CUndoStep step(again, false);
+      ASSERT_EQ(Explode(again), members);
+      step.Accept();
+    }
     ASSERT_TRUE(IsUnchanged(again, model));
+    ASSERT_TRUE(again.Undo());
+    ASSERT_TRUE(IsUnchanged(again, before));
   });
   EXPECT_GT(copies, 50);
 }
