@@ -17,6 +17,7 @@
 #include "store/record/section.h"
 #include "tarvex/connect_slab.h"
 #include "tarvex/disconnect.h"
+#include "tarvex/merge_rigid.h"
 #include "tests/support/builders.h"
 #include "tests/support/matchers.h"
 #include "tests/support/random_model.h"
@@ -165,9 +166,13 @@ TEST(ConnectSlabProperty, ChangesRigidConstraintsAloneAndNamesNodesThatExist) {
   ForEachRandomModel(kModels, [](CZelData const& random_model, Random& random) {
     auto const before = WithColumns(random_model, random);
     auto model = before;
-    CConnectSlab tool(model);
-    tool.SetSet(MostElements(before, random));
-    tool.Do();
+    {
+      CUndoStep step(model, false);
+      CConnectSlab tool(model);
+      tool.SetSet(MostElements(before, random));
+      tool.Do();
+      step.Accept();
+    }
     for (auto const& line : Testing::Differences(model, before))
       ASSERT_EQ(line.rfind("Rigid ", 0), 0U) << line;
     for (int n = before.HighestRigid() + 1; n <= model.HighestRigid(); ++n) {
@@ -177,6 +182,8 @@ TEST(ConnectSlabProperty, ChangesRigidConstraintsAloneAndNamesNodesThatExist) {
                 Util::Item(rigid.ConstrainedNodes(), model).NumItem());
     }
     ASSERT_FALSE(model.rebuildHold);
+    ASSERT_TRUE(model.Undo());
+    ASSERT_TRUE(IsUnchanged(model, before));
   });
 }
 
@@ -379,6 +386,47 @@ TEST(MemberEdgesProperty, MovesChildrenOnlyAndJoinsEachNewNodeByAPin) {
     }
   });
   EXPECT_GT(released, 100);
+}
+
+// Models that lack nodes.
+
+TEST(ConnectionProperty, ModelsThatLackNodesAreWorkedOnAlikeEachTimeAndUndone) {
+  int changed = 0;
+  ForEachRandomModel(kModels, [&](CZelData const& random_model, Random& random) {
+    auto before = WithColumns(random_model, random);
+    for (int n = 1; n <= before.HighestNode(); ++n)
+      if (random.Percent(5)) before.BlankNode(n, 1);
+    auto const set = MostElements(before, random);
+    Use const use{random.Percent(50) ? SelElement : SelMember, random.Percent(50),
+                  random.Percent(50), true, true};
+    auto const parts = RandomSet(before, use, random);
+    auto const runAll = [&](CZelData& model) {
+      CUndoStep step(model, false);
+      CConnectSlab slab(model);
+      slab.SetSet(set);
+      slab.Do();
+      {
+        MergeRigid merged(model);
+        merged.Merge(0);
+      }
+      Disconnect(model, use, parts);
+      for (int m = 1; m <= model.HighestMember(); ++m)
+        if (model.MemberExist(m)) MemberEdges(model).ReleaseEdges(m);
+      Data::CEntList members(SelMember, L"");
+      ExplodeBlocks(model, Data::CEntList(SelNone, L"all"), members);
+      step.Accept();
+      return members.String();
+    };
+    auto once = before;
+    auto again = before;
+    ASSERT_EQ(runAll(once), runAll(again));
+    ASSERT_TRUE(IsUnchanged(once, again));
+    ASSERT_TRUE(Testing::AttachmentsFollowTopology(once));
+    if (!(once == before)) ++changed;
+    ASSERT_TRUE(once.Undo());
+    ASSERT_TRUE(IsUnchanged(once, before));
+  });
+  EXPECT_GT(changed, kModels / 2);
 }
 
 }  // namespace

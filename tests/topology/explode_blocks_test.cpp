@@ -3,6 +3,7 @@
 
 #include "store/model/list_expansion.h"
 #include "store/model/registry.h"
+#include "store/model/undo_step.h"
 #include "store/model/zel_data.h"
 #include "store/record/block.h"
 #include "store/record/element.h"
@@ -235,23 +236,19 @@ TEST(ExplodeBlocksProperty, LeavesNoBlockAndNoDanglingReferenceAndIsTheSameAgain
       ASSERT_EQ(model.NodeExist(n), before.NodeExist(n));
     copies += static_cast<int>(expected);
     auto again = before;
-    ASSERT_EQ(Explode(again), members);
+    {
+      CUndoStep step(again, false);
+      ASSERT_EQ(Explode(again), members);
+      step.Accept();
+    }
     ASSERT_TRUE(IsUnchanged(again, model));
+    ASSERT_TRUE(again.Undo());
+    ASSERT_TRUE(IsUnchanged(again, before));
   });
   EXPECT_GT(copies, 50);
 }
 
 // Disconnection and merging are each other's inverse.
-
-/// Sets nodes apart that stand together, and takes out the saved lists without a kind, which a
-/// renumbering empties.
-void MakeDistinct(CZelData& model, Random& random) {
-  for (int n = 1; n <= model.HighestNode(); ++n)
-    while (model.NodeExist(n) && model.NodesAroundPoint(model.NodeCoor(n), 1e-6).size() > 1)
-      model.SetNodeCoor(n, model.NodeCoor(n) + Vec3<double>{0, 0, random.Real(0.001, 0.1)});
-  for (int n = model.HighestList(); n > 0; --n)
-    if (model.ListExist(n) && model.List(n).TypeOf() == SelNone) model.BlankList(n, 1);
-}
 
 /// Puts in the place of each list of nodes in a table what it selects.
 class WriteOut {
@@ -286,13 +283,26 @@ class WriteOut {
     return any;
   }
   bool Write(CEntList& list) {
-    if (list.TypeOf() != SelNode) return false;
+    if (list.TypeOf() != SelNode || list.IsAll()) return false;
     list.AssignFromSet(Util::MakeSet(list, m_model));
     return true;
   }
 
   CZelData& m_model;
 };
+
+/// Sets nodes apart that stand together, and takes out the saved lists without a kind, which a
+/// renumbering empties. Lists of nodes are written out: a range over numbers that are free would
+/// select new nodes.
+void MakeDistinct(CZelData& model, Random& random) {
+  for (int n = 1; n <= model.HighestNode(); ++n)
+    while (model.NodeExist(n) && model.NodesAroundPoint(model.NodeCoor(n), 1e-6).size() > 1)
+      model.SetNodeCoor(n, model.NodeCoor(n) + Vec3<double>{0, 0, random.Real(0.001, 0.1)});
+  for (int n = model.HighestList(); n > 0; --n)
+    if (model.ListExist(n) && model.List(n).TypeOf() == SelNone) model.BlankList(n, 1);
+  WriteOut write(model);
+  Registry::kTables.ForEach(write);
+}
 
 /// A model after a renumbering that moves no node, which writes lists anew and takes references to
 /// missing records out, with all lists of nodes written out.
