@@ -64,9 +64,10 @@ GRADE = {"type": 2, "grade": 1}     # concrete, number 1 of its table
 
 # Numbers of load cases, tasks and cases; the analysis case of a load case has its number.
 DEAD, FINISHED, IMPOSED, IMPOSED_ROOF, WIND_X, WIND_Y, SNOWED, WARMED = range(1, 9)
-ODD_FLOORS, EVEN_FLOORS, ARCHIVES, WIND_BACK_X, WIND_BACK_Y, HIT = range(13, 19)
+ODD_FLOORS, EVEN_FLOORS, ARCHIVES, WIND_BACK_X, WIND_BACK_Y, HIT, TORSION_X, TORSION_Y = range(13, 21)
 STATIC, MODAL, RESPONSE, P_DELTA = 1, 2, 3, 4
 RESPONSE_X, RESPONSE_Y = 11, 12
+SHAKEN = 9                          # source of the earthquake
 
 # A group is the tens of the kind and the level that the storey reaches up to.
 COLUMN, BEAM, FLOOR, WALL, RAFT, FACADE, CANOPY = 10, 20, 30, 40, 50, 60, 70
@@ -505,14 +506,16 @@ def corners(x, y):
 
 def load_cases():
     """What each load case is: type of action, source and category."""
-    offices, with_offices = {"category": 2}, {"source": IMPOSED}
+    offices, with_offices, shaken = {"category": 2}, {"source": IMPOSED}, {"source": SHAKEN}
     titles = [(DEAD, "Self weight", 11, {}), (FINISHED, "Finishes and partitions", 19, {}),
               (IMPOSED, "Offices", 31, offices), (IMPOSED_ROOF, "Access to the roof", 32, with_offices | {"category": 8}),
               (WIND_X, "Wind +x", 33, {}), (WIND_Y, "Wind +y", 33, {}), (SNOWED, "Snow", 34, {}),
               (WARMED, "Summer", 36, {}), (ODD_FLOORS, "Offices, odd floors", 31, offices),
               (EVEN_FLOORS, "Offices, even floors", 31, offices),
               (ARCHIVES, "Archive", 31, with_offices | {"category": 5}), (WIND_BACK_X, "Wind -x", 33, {}),
-              (WIND_BACK_Y, "Wind -y", 33, {}), (HIT, "Impact of a car", 41, {})]
+              (WIND_BACK_Y, "Wind -y", 33, {}), (HIT, "Impact of a car", 41, {}),
+              (TORSION_X, "Accidental torsion x", 53, shaken | {"direction": 1}),
+              (TORSION_Y, "Accidental torsion y", 53, shaken | {"direction": 2})]
     return [{"n": n, "name": name, "type": kind} | ({"source": n} if n > 1 else {}) | more
             for n, name, kind, more in titles]
 
@@ -595,7 +598,7 @@ def tasks():
             {"n": MODAL, "class": "CZssTask", "name": "Modes", "solution": 2, "stage": 2, "additionalMass": True,
              "massCase": f"L{FINISHED} + 0.3L{IMPOSED}", "modalParameters": {"numModes": 12}},
             {"n": RESPONSE, "class": "CZdSpecTask", "name": "Response", "cases": [RESPONSE_X, RESPONSE_Y],
-             "task": MODAL, "source": 9, "spectrum": [1, 1, 0]},
+             "task": MODAL, "source": SHAKEN, "spectrum": [1, 1, 0]},
             {"n": P_DELTA, "class": "CZssTask", "name": "Second order", "solution": 4, "stage": 3, "pDelta": lasting,
              "pDeltaEffects": True}]
     return {"AnalysisTask": task, "AnalysisCase": cases, "CombinationCase": combinations()}

@@ -147,7 +147,9 @@ TEST(SixStorey, HasLoadCasesWithTheirActions) {
                                                                  {15, CaseType::Imposed},
                                                                  {16, CaseType::Wind},
                                                                  {17, CaseType::Wind},
-                                                                 {18, CaseType::Accidental}}));
+                                                                 {18, CaseType::Accidental},
+                                                                 {19, CaseType::SeismicTorsion},
+                                                                 {20, CaseType::SeismicTorsion}}));
 }
 
 /// Area of the 2D elements and panels that the face loads of a load case act on.
@@ -265,7 +267,7 @@ TEST(SixStorey, HasTheSpectrumOfTheCode) {
 TEST(SixStorey, HasATaskForEachOfItsAnalyses) {
   auto const model = Building();
   EXPECT_TRUE(model.AnalysisTask(1).IsStatic());
-  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 14u);
+  EXPECT_EQ(model.AnalysisTask(1).Cases().size(), 16u);
   EXPECT_TRUE(model.AnalysisTask(2).IsEigenDynamic());
   EXPECT_TRUE(model.AnalysisTask(3).IsResponseSpectrum());
   EXPECT_TRUE(model.AnalysisTask(4).IsPDelta());
