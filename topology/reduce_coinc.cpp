@@ -26,14 +26,34 @@ constexpr MergeRule kLesser{[](Vbool6 kept, Vbool6 removed) { return kept & remo
                             [](int kept, int removed) { return std::min(kept, removed); },
                             [](double kept, double removed) { return std::min(kept, removed); }};
 
-Data::CNode Merged(Data::CNode kept, Data::CNode const& removed, MergeRule const& rule) {
+/// The fields of a node that a merge can change. They are compared before the record is copied:
+/// most nodes that merge are alike in them.
+struct MergeFields {
+  explicit MergeFields(Data::CNode const& node)
+      : restraint(node.Restraint()),
+        spring(node.SpringProperty()),
+        mass(node.MassProperty()),
+        damper(node.DamperProperty()),
+        size(node.MeshSize()) {}
+  friend bool operator==(MergeFields const&, MergeFields const&) = default;
+
+  Vbool6 restraint;
+  int spring;
+  int mass;
+  int damper;
+  double size;
+};
+
+MergeFields Merged(Data::CNode const& kept, Data::CNode const& removed, MergeRule const& rule) {
+  MergeFields fields(kept);
+  MergeFields const others(removed);
   if (kept.Axis() == removed.Axis())
-    kept.SetRestraint(rule.restraint(kept.Restraint(), removed.Restraint()));
-  kept.SetSpringProperty(rule.property(kept.SpringProperty(), removed.SpringProperty()));
-  kept.SetMassProperty(rule.property(kept.MassProperty(), removed.MassProperty()));
-  kept.SetDamperProperty(rule.property(kept.DamperProperty(), removed.DamperProperty()));
-  kept.SetMeshSize(rule.size(kept.MeshSize(), removed.MeshSize()));
-  return kept;
+    fields.restraint = rule.restraint(fields.restraint, others.restraint);
+  fields.spring = rule.property(fields.spring, others.spring);
+  fields.mass = rule.property(fields.mass, others.mass);
+  fields.damper = rule.property(fields.damper, others.damper);
+  fields.size = rule.size(fields.size, others.size);
+  return fields;
 }
 
 bool IsMerge(CReduceCoinc::Option option) {
@@ -121,9 +141,17 @@ bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
 
 void CReduceCoinc::Merge(int removed, int kept) {
   if (m_option == OptionMergeKeep) return;
-  auto const merged = Merged(m_model.Node(kept), m_model.Node(removed),
-                             m_option == OptionMergeMin ? kLesser : kGreater);
-  if (!(merged == m_model.Node(kept))) m_model.SetNode(kept, merged);
+  auto const& node = m_model.Node(kept);
+  auto const fields =
+      Merged(node, m_model.Node(removed), m_option == OptionMergeMin ? kLesser : kGreater);
+  if (fields == MergeFields(node)) return;
+  Data::CNode changed(node);
+  changed.SetRestraint(fields.restraint);
+  changed.SetSpringProperty(fields.spring);
+  changed.SetMassProperty(fields.mass);
+  changed.SetDamperProperty(fields.damper);
+  changed.SetMeshSize(fields.size);
+  m_model.SetNode(kept, changed);
 }
 
 bool CReduceCoinc::Join(int item, int other, Run& run) {

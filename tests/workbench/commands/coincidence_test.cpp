@@ -26,7 +26,7 @@ std::string LooseModel() {
 {"n": 5, "type": 5, "topology": [11, 12, 13, 14]}],
 "LoadPanel": [{"n": 6, "topology": [13, 14, 11, 12]}],
 "SpringProp": [{"n": 2}],
-"NodeLoad": [{"loadCase": 1, "loadedEntities": "3", "direction": "Z", "value": -5}]}
+"NodeLoad": [{"loadCase": 1, "loadedEntities": "3", "direction": 3, "value": -5}]}
 )";
 }
 
