@@ -2,9 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 #include <vector>
-
-#include "store/select/checked_access.h"
 
 namespace Tarvex {
 
@@ -21,14 +20,6 @@ class EdgeMiddles {
 
   /// The node between two, 0 when there is none yet.
   int Find(int a, int b) const { return m_slots[Place(KeyOf(a, b))].node; }
-
-  /// The node between two that has one; std::out_of_range "invalid unordered_map<K, T> key" for any
-  /// others.
-  int At(int a, int b) const {
-    int const node = Find(a, b);
-    if (node == 0) ThrowBadUnorderedMapKey();
-    return node;
-  }
 
   /// Enters the node between two that have none.
   void Add(int a, int b, int node) {

@@ -1,4 +1,6 @@
 // Plates with a node in the middle of each side.
+#include <algorithm>
+
 #include "frame/rebuild_hold.h"
 #include "members/edge_middles.h"
 #include "members/plate_corners.h"
@@ -18,7 +20,8 @@ class MiddleRun {
  public:
   MiddleRun(CZelData& model, Util::CSet const& elements)
       : m_model(model),
-        m_edges(kEdgesPerElement * static_cast<std::size_t>(elements.NumItem())),
+        m_edges(kEdgesPerElement *
+                std::min(static_cast<std::size_t>(elements.NumItem()), model.Elem().size())),
         m_rigids(model) {
     m_bystanders.Invert(1, model.HighestNode());
     m_highestOld = model.HighestNode();

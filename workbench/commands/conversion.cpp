@@ -74,10 +74,10 @@ void ToTriangles(CZelData& model, Arguments const& arguments, CommandResult& res
   auto const set = SelectByOptions(model, SelElement, arguments, result);
   CZelData const before(model);
   auto const quads = Those(model, set, &IsQuadPlate);
-  ReportMissingNodes(model, quads, result);
   WriteOutShapedLoads(model, quads);
   int next = model.HighestElem() + 1;
   RunTool<CMod2DToTriangle>(model, set, result);
+  ReportMissingNodes(model, Those(model, quads, &IsQuadPlate), result);
   std::map<int, std::vector<int>> pieces;
   for (int const n : quads) {
     if (model.ElemExist(n)) continue;
