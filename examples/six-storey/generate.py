@@ -601,7 +601,7 @@ def tasks():
              "task": MODAL, "source": SHAKEN, "spectrum": [1, 1, 0]},
             {"n": P_DELTA, "class": "CZssTask", "name": "Second order", "solution": 4, "stage": 3, "pDelta": lasting,
              "pDeltaEffects": True}]
-    return {"AnalysisTask": task, "AnalysisCase": cases, "CombinationCase": combinations()}
+    return {"AnalysisTask": task, "AnalysisCase": sorted(cases, key=lambda c: c["n"]), "CombinationCase": combinations()}
 
 
 MEMBER_FIELDS = ["name", "type", "group", "property", "topology", "offset", "endRelease", "analysisOrder", "children"]

@@ -34,7 +34,7 @@ class TARVEX_EXPORT CSplit1dEl {
   explicit CSplit1dEl(CZelData& model);
   CSplit1dEl(CSplit1dEl const&);
   CSplit1dEl(CSplit1dEl&&) noexcept;
-  ~CSplit1dEl();
+  ~CSplit1dEl();  // NOLINT(performance-trivially-destructible): exported
 
   /// A node within this distance of the cut is taken instead of a new one; 0 unless set.
   void SetCoincidenceTol(double tolerance) {

@@ -27,6 +27,7 @@ std::optional<LoadLine> LoadLine::Of(CZelData const& model, SEntRef ref) {
   if (ref.type == SelMember && model.Member(ref.num).Geometry() != MembGeom::Line)
     return OfArc(model, ref.num);
   std::vector<Vec> points;
+  points.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) points.push_back(model.EntCoor(ref, i));
   return LoadLine(std::move(points));
 }

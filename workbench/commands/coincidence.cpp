@@ -21,8 +21,8 @@ using Json = nlohmann::ordered_json;
 
 constexpr Option kNodeList{"--list", "TEXT", ValueKind::Text, "all",
                            "the nodes to work on, as a list text"};
-constexpr Option kList{"--list", "TEXT", ValueKind::Text, "all",
-                       "the entities to look at, as a list text"};
+constexpr Option kCoincidenceList{"--list", "TEXT", ValueKind::Text, "all",
+                                  "the entities to look at, as a list text"};
 constexpr Option kWith{"--with", "TEXT", ValueKind::Text, "all",
                        "the nodes that they are compared with, beside themselves"};
 constexpr Option kTolerance{"--tolerance",
@@ -37,8 +37,8 @@ constexpr Option kStage{"--stage",
                         "0",
                         "analysis stage whose constraints count, 0 for the model without stages",
                         0};
-constexpr Option kLineKind{"--kind", "element|member", ValueKind::Choice, "element",
-                           "what the list names"};
+constexpr Option kOverlapKind{"--kind", "element|member", ValueKind::Choice, "element",
+                              "what the list names"};
 
 constexpr std::array kMergeOptions{
     kNodeList, kWith, kTolerance,
@@ -49,10 +49,10 @@ constexpr std::array kMergeOptions{
 constexpr std::array kJoinOptions{kNodeList, kWith, kTolerance, kStage};
 constexpr std::array kCoincidentOptions{
     Option{"--kind", "node|element|member", ValueKind::Choice, "node", "what the list names"},
-    kList, kTolerance, kStage};
-constexpr std::array kOverlapOptions{kLineKind, kList, kTolerance};
-constexpr std::array kCrossingOptions{kLineKind, kList};
-constexpr std::array kUnconnectedOptions{kList};
+    kCoincidenceList, kTolerance, kStage};
+constexpr std::array kOverlapOptions{kOverlapKind, kCoincidenceList, kTolerance};
+constexpr std::array kCrossingOptions{kOverlapKind, kCoincidenceList};
+constexpr std::array kUnconnectedOptions{kCoincidenceList};
 
 double ToleranceOf(CZelData const& model, Arguments const& arguments, CommandResult& result) {
   double const given = arguments.Number("--tolerance");
@@ -80,7 +80,7 @@ CReduceCoinc::Option OptionOf(std::string const& word) {
 }
 
 /// What each removed node became in the end, ascending.
-std::map<int, int> Survivors(std::vector<std::pair<int, int>> const& pairs) {
+std::map<int, int> SurvivorsOf(std::vector<std::pair<int, int>> const& pairs) {
   std::map<int, int> survivors;
   // A node that stays may go in a later pair: from the last pair on, what it became is known.
   for (auto pair = pairs.rbegin(); pair != pairs.rend(); ++pair) {
@@ -118,9 +118,9 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
     auto const key = KeyOf(finding);
     if (!known.insert(key).second) continue;
     auto const& [code, table, number, field] = key;
-    result.warnings.push_back(
-        {code, table, number,
-         table + " " + std::to_string(number) + " " + field + ": " + code + " since the merge"});
+    std::string text = table;
+    for (auto const& part : {" " + std::to_string(number), " " + field, ": " + code}) text += part;
+    result.warnings.push_back({code, table, number, text + " since the merge"});
   }
 }
 
@@ -134,7 +134,7 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
   std::vector<std::pair<int, int>> pairs;
   result.did = tool.Do(items, pairs);
   if (pairs.empty()) return;
-  auto const survivors = Survivors(pairs);
+  auto const survivors = SurvivorsOf(pairs);
   result.maps["Node"].assign(survivors.begin(), survivors.end());
   WarnOfMoves(before, survivors, tolerance, result);
   WarnOfNewFaults(before, model, result);
@@ -173,8 +173,12 @@ void ReportPairs(std::string const& kind, FoundPairs const& pairs, std::string c
       Json{{"kind", kind},
            {"count", pairs.size()},
            {"pairs", std::vector<std::pair<int, int>>(pairs.begin(), pairs.end())}});
-  for (auto const& [a, b] : pairs)
-    result.text += kind + " " + std::to_string(a) + " " + what + " " + std::to_string(b) + "\n";
+  for (auto const& [a, b] : pairs) {
+    result.text += kind;
+    result.text += " " + std::to_string(a) + " ";
+    result.text += what;
+    result.text += " " + std::to_string(b) + "\n";
+  }
   result.text += Counted(pairs.size(), "pair") + "\n";
   result.did = !pairs.empty();
   result.lookAt = !pairs.empty();

@@ -53,6 +53,15 @@ constexpr std::array kPropertyWords{
     PropertyWord{-55, "MP", CModule::MatFrp},       PropertyWord{-57, "MT", CModule::MatTimber},
     PropertyWord{-58, "MF", CModule::MatFabric}};
 
+/// That a list lost the number behind a word, which selects something else now.
+std::string LostWord(std::string const& name, std::string const& was, std::string const& now,
+                     std::string const& gone) {
+  auto text = name;
+  for (auto const& part : {" named '" + was, "' and is '" + now, "' now, since " + gone})
+    text += part;
+  return text + " went";
+}
+
 std::string RecordText(std::string_view table, int number) {
   return std::string(table) + (number == 0 ? "" : " " + std::to_string(number));
 }
@@ -174,8 +183,8 @@ class Losses {
         if (words[i - 1] == word.token && words[i] > 0 &&
             m_run.renumber.MapItem(word.module, words[i]) == 0)
           Warn("word-without-number", table, n,
-               name + " named '" + was + "' and is '" + after.String().ToUtf8() + "' now, since " +
-                   std::string(word.text) + std::to_string(words[i]) + " went");
+               LostWord(name, was, after.String().ToUtf8(),
+                        std::string(word.text) + std::to_string(words[i])));
   }
 
   /// Whether a list of entities selects the records that it selected, where they are now.

@@ -40,7 +40,8 @@ bool HasShape(Load const&) {
 template <class Load, class Store>
 void WriteOut(CZelData const& model, std::vector<Load> const& table, Util::CSet const& elements,
               Store&& store) {
-  auto const loads = table;  // storing one gives the table another place
+  // A copy: storing a load gives the table another place.
+  auto const loads = table;  // NOLINT(performance-unnecessary-copy-initialization)
   int n = 0;
   for (auto const& load : loads) {
     ++n;

@@ -121,7 +121,7 @@ void Tidy(CZelData& model, Arguments const& arguments, CommandResult& result) {
   tool.SetNoSection(arguments.Flag("--sections"));
   if (blank) result.did = tool.Update(CUpdateProp::kBlankUnused);
   if (compact) {
-    CZelData const before(model);
+    CZelData const before(model);  // NOLINT(performance-unnecessary-copy-initialization): changes
     result.did = tool.Update(CUpdateProp::kDeleteBlank) || result.did;
     ReportCompaction(before, result);
   }
