@@ -1,5 +1,7 @@
 // Plates with a node in the middle of each side.
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 #include "frame/rebuild_hold.h"
 #include "members/edge_middles.h"
@@ -89,7 +91,32 @@ class MiddleRun {
   void Fold() {
     CReduceCoinc reduce(m_model, kFoldTolerance, kWholeModel);
     if (!reduce.SetSearchSet(m_bystanders, CReduceCoinc::kWholeSearch)) return;
-    reduce.Do(m_highestOld + 1, m_model.HighestNode() - m_highestOld);
+    auto const [first, last] = MiddlesAmongBystanders();
+    if (first <= last) reduce.Do(first, last - first + 1);
+  }
+
+  /// The lowest and the highest new node in the box of the bystanders: those outside can't fold.
+  std::pair<int, int> MiddlesAmongBystanders() const {
+    constexpr double kFar = std::numeric_limits<double>::infinity();
+    Vec3<double> low{kFar, kFar, kFar};
+    Vec3<double> high{-kFar, -kFar, -kFar};
+    for (int const n : m_bystanders) {
+      if (!m_model.NodeExist(n)) continue;
+      auto const& p = m_model.NodeCoor(n);
+      low = {std::min(low.x, p.x), std::min(low.y, p.y), std::min(low.z, p.z)};
+      high = {std::max(high.x, p.x), std::max(high.y, p.y), std::max(high.z, p.z)};
+    }
+    constexpr double kMargin = 2 * kFoldTolerance;  // more than rounding can take from it
+    std::pair<int, int> range{m_model.HighestNode() + 1, 0};
+    for (int n = m_highestOld + 1; n <= m_model.HighestNode(); ++n) {
+      auto const& p = m_model.NodeCoor(n);
+      bool const outside = p.x < low.x - kMargin || p.x > high.x + kMargin ||
+                           p.y < low.y - kMargin || p.y > high.y + kMargin ||
+                           p.z < low.z - kMargin || p.z > high.z + kMargin;
+      if (outside) continue;
+      range = {std::min(range.first, n), n};
+    }
+    return range;
   }
 
   CZelData& m_model;
