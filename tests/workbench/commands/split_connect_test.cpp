@@ -71,6 +71,20 @@ TEST_F(SplitConnectCommand, SplitReportsWhatItLeaves) {
       Json({{"table", "Elem"}, {"number", 8}, {"why", "the place is within a rigid offset"}}));
 }
 
+TEST_F(SplitConnectCommand, SplitWarnsOfOffsetsThatAreGoneWhereItDidNotCut) {
+  auto const report = RunOn({"split", "--list", "8", "--at", "0.5"}, 1);
+  EXPECT_EQ(report.at("warnings").at(0), Json({{"code", "offset-cleared"},
+                                               {"table", "Elem"},
+                                               {"number", 8},
+                                               {"text", "element 8 has lost its offsets"}}));
+}
+
+TEST_F(SplitConnectCommand, SplitWarnsOfAnExtensionWithoutLength) {
+  auto const report = RunOn({"split", "--list", "7", "--at=-2", "--extend"});
+  EXPECT_EQ(report.at("warnings").at(0).at("code"), "no-length");
+  EXPECT_EQ(report.at("warnings").at(0).at("number"), 9);
+}
+
 TEST_F(SplitConnectCommand, SplitExtendsMembers) {
   RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"});
   EXPECT_EQ(Out().at("Member").size(), 2);
