@@ -5,9 +5,9 @@
 namespace Tarvex::Data {
 namespace {
 
-bool IsDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
+bool IsCaseDigit(wchar_t character) { return character >= L'0' && character <= L'9'; }
 
-bool IsLetter(wchar_t character) {
+bool IsCaseLetter(wchar_t character) {
   return (character >= L'A' && character <= L'Z') || (character >= L'a' && character <= L'z');
 }
 
@@ -18,10 +18,10 @@ std::vector<SCaseRef> CasesIn(CString const& description) {
   auto const& text = description.Str();
   for (std::size_t i = 0; i + 1 < text.size(); ++i) {
     auto const kind = CaseOfLetter(text[i]);
-    bool const alone = i == 0 || !IsLetter(text[i - 1]);
-    if (kind == CaseOp::None || !alone || !IsDigit(text[i + 1])) continue;
+    bool const alone = i == 0 || !IsCaseLetter(text[i - 1]);
+    if (kind == CaseOp::None || !alone || !IsCaseDigit(text[i + 1])) continue;
     long long number = 0;
-    for (++i; i < text.size() && IsDigit(text[i]); ++i)
+    for (++i; i < text.size() && IsCaseDigit(text[i]); ++i)
       if (number <= kHighestNumber) number = number * 10 + (text[i] - L'0');
     --i;
     if (number >= 1 && number <= kHighestNumber) cases.emplace_back(kind, static_cast<int>(number));

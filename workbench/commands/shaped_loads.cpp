@@ -19,7 +19,7 @@ bool NamesAny(CZelData const& model, CEntList const& list, Util::CSet const& ele
                      [&](int const n) { return elements.IsItemIncluded(n); });
 }
 
-bool IsPlain(CEntList const& list) {
+bool IsPlainList(CEntList const& list) {
   int count = 0;
   Util::CSet numbers;
   return list.CheckSimpleList(count, numbers) && count == list.NumWord();
@@ -46,7 +46,7 @@ void WriteOut(CZelData const& model, std::vector<Load> const& table, Util::CSet 
   for (auto const& load : loads) {
     ++n;
     auto const& list = load.LoadedEntities();
-    if (!HasShape(load) || IsPlain(list) || !NamesAny(model, list, elements)) continue;
+    if (!HasShape(load) || IsPlainList(list) || !NamesAny(model, list, elements)) continue;
     CEntList plain(list.Name(), SelElement, CString(L""));
     for (int const number : Util::MakeSet(list, model)) plain.AddTo(number);
     auto changed = load;
