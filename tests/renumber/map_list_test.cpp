@@ -132,6 +132,11 @@ TEST(MapList, KeepsTheHighestNumberOfARange) {
 
 TEST(MapList, KeepsARangeOutOfOrder) { EXPECT_EQ(Mapped(L"9 to 5", Without({}, 1)), L"10 to 6"); }
 
+TEST(MapList, LeavesTheEndOfARangeOutOfOrderThatLosesItsBeginToWhatStandsBefore) {
+  // The begin is looked for below the end only.
+  EXPECT_EQ(Mapped(L"1 2 9 to 5", Without({9})), L"1 2 to 5");
+}
+
 TEST(MapList, ThatLosesAllItemsBecomesNone) {
   EXPECT_EQ(Mapped(L"3 5", Without({3, 5})), L"none");
   EXPECT_EQ(Mapped(L"3 to 5", Without({3, 4, 5})), L"none");
