@@ -51,7 +51,7 @@ class UseMarker {
   void Members() {
     for (auto const& [n, member] : m_model.Member()) {
       auto const table = TidiedTable(member);
-      auto const family = FamilyOf(table);
+      auto const family = PropertyTypeOf(table);
       int const own = member.Property();
       Property(table,
                family == PropertyType::None ? own : m_model.StageProperty(family, own, m_stage));

@@ -21,10 +21,6 @@ constexpr std::array kTidiedTypes{
     TidiedType{12, CModule::Prop3D},     TidiedType{14, CModule::Prop3D},
     TidiedType{16, CModule::Prop3D},     TidiedType{26, CModule::Prop3D}};
 
-constexpr std::array kFamilies{PropertyType::Section, PropertyType::Spring, PropertyType::Mass,
-                               PropertyType::Plate,   PropertyType::Link,   PropertyType::Cable,
-                               PropertyType::Solid,   PropertyType::Damper};
-
 }  // namespace
 
 CModule::ModuleId TidiedTable(ElementType type) {
@@ -37,12 +33,6 @@ CModule::ModuleId TidiedTable(Data::CMember const& member) {
   if (member.Is2D()) return CModule::Prop2D;
   if (member.Is3D()) return CModule::Prop3D;
   return TidiedTable(member.AnalysisTypes().element1D);
-}
-
-PropertyType FamilyOf(CModule::ModuleId module) {
-  for (auto const type : kFamilies)
-    if (PropertyModule(type) == module) return type;
-  return PropertyType::None;
 }
 
 }  // namespace Tarvex

@@ -12,7 +12,5 @@ CModule::ModuleId TidiedTable(ElementType type);
 /// Of a member: a 1D one goes by the type of its elements, a 2D one by the 2D properties, a 3D one
 /// by the 3D properties.
 CModule::ModuleId TidiedTable(Data::CMember const& member);
-/// The family of a table, PropertyType::None for one that is no family's.
-PropertyType FamilyOf(CModule::ModuleId module);
 
 }  // namespace Tarvex

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "store/select/numbers.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/file_error.h"
 #include "workbench/file/read_file.h"
@@ -9,7 +10,6 @@
 namespace Tarvex::Workbench {
 namespace {
 
-constexpr int kHighestMapped = 100000000;
 constexpr std::string_view kBlanks = " \t\r";
 
 /// Reads the lines of one file.
@@ -41,7 +41,7 @@ class MapReader {
     int number = 0;
     auto const* end = word.data() + word.size();
     auto const [rest, fault] = std::from_chars(word.data(), end, number);
-    if (fault != std::errc() || rest != end || number < 1 || number > kHighestMapped)
+    if (fault != std::errc() || rest != end || number < 1 || number > kHighestNumber)
       Fail(at, "'" + std::string(word) + "' is no number from 1 to 100000000");
     return number;
   }

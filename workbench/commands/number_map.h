@@ -13,9 +13,8 @@ namespace Tarvex::Workbench {
 using NumberLists = std::map<int, std::vector<int>>;
 
 /// Reads a file of whole numbers from 1 to 100000000 with blanks between them; "#" begins a
-/// comment,
-/// "-" is standard input. Throws FileError with line and column for anything else and for an old
-/// number that comes twice, UsageError when the name is empty.
+/// comment, "-" is standard input. Throws FileError with line and column for anything else and for
+/// an old number that comes twice, UsageError when the name is empty.
 /// @param fewest, most how many new numbers each line may have; most -1 for any.
 NumberLists ReadNumberMap(std::string const& path, int fewest, int most);
 

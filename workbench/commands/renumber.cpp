@@ -11,10 +11,9 @@
 #include "store/select/numbers.h"
 #include "tarvex/tidy.h"
 #include "workbench/commands/errors.h"
+#include "workbench/commands/number_map.h"
 #include "workbench/commands/renumber_run.h"
 #include "workbench/commands/selection.h"
-#include "workbench/file/file_error.h"
-#include "workbench/file/read_file.h"
 #include "workbench/file/references.h"
 
 namespace Tarvex::Workbench {
@@ -70,13 +69,11 @@ std::vector<T> NumbersOf(std::string const& option, std::string const& text, std
   return numbers;
 }
 
-/// Refuses a scheme that would give two records one number, or one that no record can have.
+/// Refuses a scheme that would give two records one number.
 void RequireOneToOne(std::string const& stem, std::map<int, int> const& scheme) {
   std::map<int, int> olds;
   for (auto const& [old, number] : scheme) {
     auto const record = stem + " " + std::to_string(old);
-    if (number < 1 || number > kHighestNumber)
-      throw Refusal(record + " can't have the number " + std::to_string(number));
     auto const [at, isNew] = olds.try_emplace(number, old);
     if (!isNew)
       throw Refusal(record + " and " + std::to_string(at->second) + " would both have the number " +
@@ -84,49 +81,28 @@ void RequireOneToOne(std::string const& stem, std::map<int, int> const& scheme) 
   }
 }
 
-std::map<int, int> ShiftedBy(std::vector<int> const& numbers, std::string const& text) {
+std::map<int, int> ShiftedBy(std::vector<int> const& numbers, std::string const& stem,
+                             std::string const& text) {
   auto const values = NumbersOf<int>("--shift", text, 2);
   std::map<int, int> scheme;
   for (int const n : numbers) {
-    auto const shifted = static_cast<long long>(n) + values[1];
-    bool const fits = shifted >= 1 && shifted <= kHighestNumber;
-    scheme[n] = n < values[0] ? n : static_cast<int>(fits ? shifted : -1);
+    long long const shifted = n < values[0] ? n : static_cast<long long>(n) + values[1];
+    if (shifted < 1 || shifted > kHighestNumber)
+      throw Refusal(stem + " " + std::to_string(n) + " can't have the number " +
+                    std::to_string(shifted));
+    scheme[n] = static_cast<int>(shifted);
   }
   return scheme;
 }
 
-std::map<int, int> ReadMap(std::vector<int> const& numbers, std::string const& stem,
-                           std::string const& path) {
+std::map<int, int> MapOfFile(std::vector<int> const& numbers, std::string const& stem,
+                             std::string const& path) {
   std::map<int, int> scheme;
   for (int const n : numbers) scheme[n] = n;
-  auto const text = ReadWholeFile(path);
-  int line = 0;
-  std::set<int> named;
-  for (std::size_t at = 0; at < text.size();) {
-    auto const end = std::min(text.find('\n', at), text.size());
-    auto row = text.substr(at, end - at);
-    at = end + 1;
-    ++line;
-    std::replace_if(
-        row.begin(), row.end(), [](char c) { return c == '\t' || c == '\r'; }, ' ');
-    row.erase(0, std::min(row.find_first_not_of(' '), row.size()));
-    row.erase(row.find_last_not_of(' ') + 1);
-    if (row.empty() || row.front() == '#') continue;
-    int values[2] = {0, 0};
-    auto const* from = row.data();
-    auto const* const last = row.data() + row.size();
-    for (int& value : values) {
-      while (from != last && *from == ' ') ++from;
-      from = std::from_chars(from, last, value).ptr;
-    }
-    FilePlace const place{path, line, 0, ""};
-    if (from != last || values[0] < 1 || values[1] < 1)
-      throw FileError(place, "not an old number and a new one");
-    if (!named.insert(values[0]).second)
-      throw FileError(place, std::to_string(values[0]) + " has a new number already");
-    if (!scheme.contains(values[0]))
-      throw FileError(place, stem + " " + std::to_string(values[0]) + " does not exist");
-    scheme[values[0]] = values[1];
+  for (auto const& [old, now] : ReadNumberMap(path, 1, 1)) {
+    auto const found = scheme.find(old);
+    if (found == scheme.end()) throw Refusal(stem + " " + std::to_string(old) + " does not exist");
+    found->second = now.front();
   }
   return scheme;
 }
@@ -159,8 +135,9 @@ std::map<int, int> BuildScheme(CZelData const& model, Id module, Arguments const
       renumber.Index(kind, Vec3<double>{v[0], v[1], v[2]});
     });
   }
-  if (auto const& text = arguments.Text("--shift"); !text.empty()) return ShiftedBy(numbers, text);
-  return ReadMap(numbers, StemOf(module), arguments.Text("--map"));
+  if (auto const& text = arguments.Text("--shift"); !text.empty())
+    return ShiftedBy(numbers, StemOf(module), text);
+  return MapOfFile(numbers, StemOf(module), arguments.Text("--map"));
 }
 
 void CheckForm(Arguments const& arguments) {

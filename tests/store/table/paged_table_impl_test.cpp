@@ -126,7 +126,7 @@ std::string Contents(FragileTable const& table) {
 /// Runs a change that may copy 0, 1, 2, ... records before it fails, until it succeeds. Each
 /// failure must leave the table and its copy as they were.
 template <class Change>
-void KeepsContentsWhenCopyingFails(Change&& change) {
+void ExpectContentsKeptWhenCopyingFails(Change&& change) {
   bool done = false;
   for (int allowed = 0; !done; ++allowed) {
     ASSERT_LT(allowed, 20);
@@ -153,29 +153,29 @@ void KeepsContentsWhenCopyingFails(Change&& change) {
 
 TEST(PagedTableFailure, KeepsItsContentsWhenANewRecordCannotBeStored) {
   Fragile::alive = 0;
-  KeepsContentsWhenCopyingFails([](FragileTable& table) {
+  ExpectContentsKeptWhenCopyingFails([](FragileTable& table) {
     Fragile const record(6);
     table.Set(6, record);
   });
 }
 
 TEST(PagedTableFailure, KeepsItsContentsWhenARecordCannotBeReplaced) {
-  KeepsContentsWhenCopyingFails([](FragileTable& table) {
+  ExpectContentsKeptWhenCopyingFails([](FragileTable& table) {
     Fragile const record(6);
     table.Set(7, record);
   });
 }
 
 TEST(PagedTableFailure, KeepsItsContentsWhenAPageBeyondTheRootCannotBeFilled) {
-  KeepsContentsWhenCopyingFails([](FragileTable& table) {
+  ExpectContentsKeptWhenCopyingFails([](FragileTable& table) {
     Fragile const record(6);
     table.Set(200, record);
   });
 }
 
 TEST(PagedTableFailure, KeepsItsContentsWhenASharedPageCannotBeCloned) {
-  KeepsContentsWhenCopyingFails([](FragileTable& table) { table.Edit(1).value = 5; });
-  KeepsContentsWhenCopyingFails([](FragileTable& table) { table.Remove(2, 1); });
+  ExpectContentsKeptWhenCopyingFails([](FragileTable& table) { table.Edit(1).value = 5; });
+  ExpectContentsKeptWhenCopyingFails([](FragileTable& table) { table.Remove(2, 1); });
 }
 
 /// A record of two parts, of which replacing it may change the first only.

@@ -43,7 +43,7 @@ class ConversionCommand : public Testing::RunTest {
     words.insert(words.end(), {"-o", Path("out.json"), "--force", "--json"});
     auto const result = RunTarvex(words);
     EXPECT_EQ(result.exit, exit) << result.out << result.err;
-    return exit < 2 ? result.Json().at("data") : Json();
+    return exit < 2 ? result.Json().at("data") : result.Json().at("error").at("text");
   }
   Json Element(int n) const {
     auto const model = Json::parse(Read("out.json"));
@@ -150,9 +150,10 @@ TEST_F(ConversionCommand, RefineWarnsOfPiecesThatFold) {
 }
 
 TEST_F(ConversionCommand, RefineRefusesARatioOfOneAndNoList) {
-  RunOn({"refine", "--list", "5", "--ratio", "1"}, 2);
-  RunOn({"refine", "--list", "5", "--ratio", "-0.1"}, 2);
-  RunOn({"refine"}, 2);
+  EXPECT_EQ(RunOn({"refine", "--list", "5", "--ratio", "1"}, 2), "--ratio: '1' is not below 1");
+  EXPECT_EQ(RunOn({"refine", "--list", "5", "--ratio", "-0.1"}, 2),
+            "--ratio: '-0.1' is not at least 0");
+  EXPECT_EQ(RunOn({"refine"}, 2), "--list: give the nodes to refine around");
 }
 
 }  // namespace

@@ -134,11 +134,23 @@ TEST_F(RenumberCommand, TakesAMapAndLeavesOtherNumbers) {
 }
 
 TEST_F(RenumberCommand, RefusesAMapThatCannotBeRead) {
-  for (auto const* text : {"2", "2 3 4", "a b", "2 0", "-2 3", "2 3\n2 4", "77 3"}) {
-    auto const map = Write("map.txt", text);
-    ErrorText({"renumber", "--table", "Node", "--map", map}, 4);
+  struct Row {
+    char const* text;
+    char const* fault;
+  };
+  for (auto const& row :
+       {Row{"2", "a new number is missing"}, Row{"2 3 4", "more than one new number"},
+        Row{"a b", "'a' is no number from 1 to 100000000"},
+        Row{"2 0", "'0' is no number from 1 to 100000000"},
+        Row{"-2 3", "'-2' is no number from 1 to 100000000"},
+        Row{"2 3\n2 4", "number 2 comes a second time"}}) {
+    auto const map = Write("map.txt", row.text);
+    EXPECT_EQ(ErrorText({"renumber", "--table", "Node", "--map", map}, 4), row.fault);
   }
-  ErrorText({"renumber", "--table", "Node", "--map", Path("none.txt")}, 4);
+  auto const map = Write("map.txt", "77 3");
+  EXPECT_EQ(ErrorText({"renumber", "--table", "Node", "--map", map}, 3), "Node 77 does not exist");
+  auto const text = ErrorText({"renumber", "--table", "Node", "--map", Path("none.txt")}, 4);
+  EXPECT_EQ(text.rfind("cannot be read", 0), 0U) << text;
 }
 
 TEST_F(RenumberCommand, RefusesWhatIsNotOneToOne) {
@@ -150,20 +162,31 @@ TEST_F(RenumberCommand, RefusesWhatIsNotOneToOne) {
 }
 
 TEST_F(RenumberCommand, RefusesNumbersThatNoRecordCanHave) {
-  ErrorText({"renumber", "--table", "Node", "--shift", "1,-2"}, 3);
-  ErrorText({"renumber", "--table", "Node", "--shift", "1,100000000"}, 3);
+  EXPECT_EQ(ErrorText({"renumber", "--table", "Node", "--shift", "1,-2"}, 3),
+            "Node 2 can't have the number 0");
+  EXPECT_EQ(ErrorText({"renumber", "--table", "Node", "--shift", "1,100000000"}, 3),
+            "Node 2 can't have the number 100000002");
 }
 
 TEST_F(RenumberCommand, WantsOneFormAndAKnownTable) {
-  ErrorText({"renumber", "--table", "Node"}, 2);
-  ErrorText({"renumber", "--compress"}, 2);
-  ErrorText({"renumber", "--table", "Node", "--compress", "--shift", "1,2"}, 2);
-  ErrorText({"renumber", "--table", "NodeLoad", "--compress"}, 2);
-  ErrorText({"renumber", "--table", "Nothing", "--compress"}, 2);
-  ErrorText({"renumber", "--table", "Node,Elem", "--shift", "1,2"}, 2);
-  ErrorText({"renumber", "--table", "Node", "--shift", "1"}, 2);
-  ErrorText({"renumber", "--table", "Node", "--shift", "1,x"}, 2);
-  ErrorText({"renumber", "--table", "Axis", "--direction", "1,0,0"}, 2);
+  auto const expect = [&](std::vector<std::string> words, std::string const& fault) {
+    words.insert(words.begin(), "renumber");
+    EXPECT_EQ(ErrorText(words, 2), fault);
+  };
+  std::string const oneForm = "give one of --compress, --shift, --direction and --map";
+  expect({"--table", "Node"}, oneForm);
+  expect({"--table", "Node", "--compress", "--shift", "1,2"}, oneForm);
+  expect({"--compress"}, "--table: which table?");
+  expect({"--table", "NodeLoad", "--compress"},
+         "--table: 'NodeLoad' is no table whose records have numbers to change");
+  expect({"--table", "Nothing", "--compress"},
+         "--table: 'Nothing' is no table whose records have numbers to change");
+  expect({"--table", "Node,Elem", "--shift", "1,2"},
+         "--table: several tables go with --compress alone");
+  expect({"--table", "Node", "--shift", "1"}, "--shift: '1' is not 2 numbers, split by commas");
+  expect({"--table", "Node", "--shift", "1,x"}, "--shift: '1,x' is not 2 numbers, split by commas");
+  expect({"--table", "Axis", "--direction", "1,0,0"},
+         "--direction: nodes, elements and members alone have a place");
 }
 
 TEST_F(RenumberCommand, KeepsTheCasesOfTasksWhenLoadCasesMove) {
@@ -303,8 +326,9 @@ TEST_F(DeleteCommand, DoesNothingForRecordsThatThereAreNot) {
 }
 
 TEST_F(DeleteCommand, WantsAList) {
-  ErrorText({"delete", "--kind", "node"}, 2);
-  ErrorText({"delete", "--kind", "node", "--list", "1 to"}, 2);
+  EXPECT_EQ(ErrorText({"delete", "--kind", "node"}, 2), "--list: which records?");
+  EXPECT_EQ(ErrorText({"delete", "--kind", "node", "--list", "1 to"}, 2),
+            "--list: character 3: a range without its end");
 }
 
 TEST_F(DeleteCommand, RefusesTablesThatCannotLoseRecords) {
