@@ -36,7 +36,7 @@ std::map<SCaseRef, int> NewCases(Schemes const& schemes) {
 
 bool CRenumber::Go(bool keepDescriptions) const {
   auto& model = Model();
-  auto const& schemes = m_parts->schemes;
+  auto const schemes = m_parts->schemes.Settled();
   RequireNumbers(schemes);
   m_parts->before = model.Snapshot();
   RenumberRun const run{model, *m_parts->before, schemes, m_parts->refOnly,

@@ -18,7 +18,7 @@ struct RenumberRun {
   /// The new number of one that the scheme of its table holds; any other stays.
   int MapFound(Id module, int number) const {
     auto const* const scheme = schemes.Find(module);
-    return scheme != nullptr && scheme->Has(number) ? scheme->Map(number) : number;
+    return scheme != nullptr ? scheme->MapFound(number) : number;
   }
 
   CZelData& model;

@@ -53,7 +53,7 @@ class TopologyMapper {
 
   bool Works() const { return m_scheme != nullptr; }
   /// A node that the scheme lacks stays.
-  int Node(int node) const { return m_scheme->Has(node) ? m_scheme->Map(node) : node; }
+  int Node(int node) const { return m_scheme->MapFound(node); }
   /// @return whether any changed.
   bool Nodes(Data::TopoVector& nodes) const {
     bool changed = false;

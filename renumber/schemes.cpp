@@ -14,6 +14,14 @@ bool Schemes::HasProperties() const {
   });
 }
 
+Schemes Schemes::Settled() const {
+  Schemes settled;
+  ForEach([&](Id module, NumberScheme const& scheme) {
+    settled.m_slots[module] = {true, scheme.Settled()};
+  });
+  return settled;
+}
+
 NumberScheme& Schemes::Start(Id module) {
   auto& slot = m_slots[module];
   slot.present = true;

@@ -36,6 +36,8 @@ class Schemes {
   }
   /// Whether properties are renumbered.
   bool HasProperties() const;
+  /// The schemes that tables have, for many look-ups.
+  Schemes Settled() const;
 
   /// Gives a table an empty scheme in the place of any that it has.
   NumberScheme& Start(Id module);

@@ -1,6 +1,7 @@
 #include "topology/coincidence_run.h"
 
 #include "store/record/joint.h"
+#include "store/record/node.h"
 
 namespace Tarvex {
 
@@ -15,6 +16,21 @@ JointTies& CReduceCoinc::Run::Ties() {
 int CReduceCoinc::Run::Nearest(int place) {
   if (!m_sweep) m_sweep.emplace(m_order, m_model, m_tolerance);
   return m_sweep->Nearest(place, Ties());
+}
+
+bool CReduceCoinc::Run::AreBare(int a, int b) {
+  if (!m_bare) {
+    m_bare.emplace(SelNode);
+    for (auto const& [number, node] : m_model.Node())
+      if (node.Restraint().IsNone() && node.SpringProperty() == 0 && node.MassProperty() == 0 &&
+          node.DamperProperty() == 0 && node.MeshSize() == 0)
+        m_bare->AddTo(static_cast<int>(number));
+  }
+  return m_bare->IsItemIncluded(a) && m_bare->IsItemIncluded(b);
+}
+
+void CReduceCoinc::Run::TookOver(int node) {
+  if (m_bare) m_bare->RemoveFrom(node);
 }
 
 bool CReduceCoinc::Run::IsConstrained(int node) {

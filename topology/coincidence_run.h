@@ -20,6 +20,11 @@ class CReduceCoinc::Run {
 
   /// The node nearest to that at a place of the list, 0 for none.
   int Nearest(int place);
+  /// Whether two nodes have nothing that a merge could carry over: no restraint, no property, no
+  /// mesh size. It spares the look at most records.
+  bool AreBare(int a, int b);
+  /// Told when a node has taken over what another one had.
+  void TookOver(int node);
   /// Whether a node is in a constraint of the stage.
   bool IsConstrained(int node);
   /// Stores a joint of two nodes in all directions, for the stage.
@@ -36,6 +41,7 @@ class CReduceCoinc::Run {
   int m_stage;
   std::optional<NodeSweep> m_sweep;
   std::optional<JointTies> m_ties;
+  std::optional<Util::CSet> m_bare;
   std::optional<CZelData> m_before;  // the run's own joints would make each question costly
   std::unordered_set<int> m_joined;  // nodes of the run's own joints
 };

@@ -133,14 +133,14 @@ bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
   if (m_order.TypeOf() != SelNode) throw std::out_of_range("bad entity type");
   if (!merging) return Join(item, other, run);
   pair = {std::max(item, other), std::min(item, other)};
-  Merge(pair.first, pair.second);
+  Merge(pair.first, pair.second, run);
   run.renumber.IndexItem(EntModId(SelNode), pair.first, pair.second);
   m_order.RemoveFromSet(pair.first);
   return true;
 }
 
-void CReduceCoinc::Merge(int removed, int kept) {
-  if (m_option == OptionMergeKeep) return;
+void CReduceCoinc::Merge(int removed, int kept, Run& run) {
+  if (m_option == OptionMergeKeep || run.AreBare(removed, kept)) return;
   auto const& node = m_model.Node(kept);
   auto const fields =
       Merged(node, m_model.Node(removed), m_option == OptionMergeMin ? kLesser : kGreater);
@@ -152,6 +152,7 @@ void CReduceCoinc::Merge(int removed, int kept) {
   changed.SetDamperProperty(fields.damper);
   changed.SetMeshSize(fields.size);
   m_model.SetNode(kept, changed);
+  run.TookOver(kept);
 }
 
 bool CReduceCoinc::Join(int item, int other, Run& run) {

@@ -120,7 +120,7 @@ class TARVEX_EXPORT CReduceCoinc {
   bool RunOver(Walk&& walk);
   bool DoItem(int item, Run& run, std::pair<int, int>& pair);
   bool Join(int item, int other, Run& run);
-  void Merge(int removed, int kept);
+  void Merge(int removed, int kept, Run& run);
 
   std::unordered_set<int> ExcludedItems(int item) const;
   int FindNode(int item, int place, bool whole) const;

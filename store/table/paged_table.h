@@ -171,7 +171,8 @@ class PagedTable {
   class Page : public boost::intrusive_ref_counter<Page> {
    public:
     Page() = default;
-    Page(Page const& other) : Page() {
+    // Not by way of the other constructor, which would fill the bytes with zeros first.
+    Page(Page const& other) : boost::intrusive_ref_counter<Page>() {
       other.ForEach([&](unsigned slot, Record const& record) { Put(slot, record); });
     }
     Page& operator=(Page const&) = delete;
