@@ -5,6 +5,7 @@
 
 #include "frame/bulk_operations.h"
 #include "store/model/registry.h"
+#include "store/select/set.h"
 
 namespace Tarvex {
 namespace {
@@ -59,11 +60,15 @@ void MoveNodes(RenumberRun const& run, Id module) {
   auto const& before = run.before;
   auto const& nodes = before.Node();
   if (KeepsAll(scheme, nodes)) return;
+  Util::CSet stay(SelNode);
+  scheme.ForEach([&](int old, int number) {
+    if (old == number && nodes.Exist(old)) stay.AddTo(old);
+  });
   run.model.BlankNode(1, run.model.HighestNode());
   scheme.ForEach([&](int old, int number) {
     auto const* const node = nodes.Find(old);
     if (number == 0 || node == nullptr) return;
-    bool const yields = old != number && scheme.Map(number) == number && nodes.Exist(number);
+    bool const yields = old != number && stay.IsItemIncluded(number);
     if (!yields) run.model._SetNode(number, *node, SidMode::Keep);
   });
 }

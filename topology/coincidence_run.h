@@ -20,6 +20,11 @@ class CReduceCoinc::Run {
 
   /// The node nearest to that at a place of the list, 0 for none.
   int Nearest(int place);
+  /// Told some items before one whose neighbour will be asked for.
+  void Expect(int number) const {
+    int const place = m_sweep ? m_order.GetIndexFromRef(number) : -1;
+    if (place >= 0) m_sweep->Expect(place);
+  }
   /// Whether two nodes have nothing that a merge could carry over: no restraint, no property, no
   /// mesh size. It spares the look at most records.
   bool AreBare(int a, int b);

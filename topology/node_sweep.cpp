@@ -9,14 +9,13 @@
 namespace Tarvex {
 
 NodeSweep::NodeSweep(COrderSet const& order, CZelData const& model, double tolerance)
-    : m_order(order), m_tolerance(tolerance) {
+    : m_order(order), m_items(order.Items()), m_tolerance(tolerance) {
   constexpr double kGone = std::numeric_limits<double>::quiet_NaN();
-  int const count = order.NumItems();
-  m_points.reserve(static_cast<std::size_t>(count));
-  for (int place = 0; place < count; ++place) {
-    int const node = order.Ref(place);
-    m_points.push_back(model.NodeExist(node) ? model.NodeCoor(node)
-                                             : Vec3<double>{kGone, kGone, kGone});
+  m_points.resize(m_items.size(), {kGone, kGone, kGone});
+  // In the order of their numbers, in which the model has them.
+  for (auto const& [number, place] : order.Places()) {
+    int const node = static_cast<int>(number);
+    if (model.NodeExist(node)) m_points[static_cast<std::size_t>(place)] = model.NodeCoor(node);
   }
   m_slack = FindSlack();
   if (HasLongSlices()) m_cells.emplace(m_points, tolerance);
@@ -29,11 +28,11 @@ double NodeSweep::FindSlack() const {
   double moved = 0;
   double largest = 0;
   auto const& v = m_order.OrderVector();
-  for (int place = 0; place < m_order.NumItems(); ++place) {
+  for (int place = 0; place < NumPlaces(); ++place) {
     auto const& p = PointAt(place);
     double const size = std::abs(p.x) + std::abs(p.y) + std::abs(p.z);
     if (!std::isfinite(size)) continue;
-    moved = std::max(moved, std::abs(Dot(p, v) - m_order.PointItem(place)));
+    moved = std::max(moved, std::abs(Dot(p, v) - AlongAt(place)));
     largest = std::max(largest, size);
   }
   return 2 * moved + kRounding * largest;
@@ -42,49 +41,49 @@ double NodeSweep::FindSlack() const {
 /// Whether the slices within the tolerance hold more candidates, in all, than cells would.
 bool NodeSweep::HasLongSlices() const {
   constexpr long long kOftenMet = 16;
-  int const count = m_order.NumItems();
+  int const count = NumPlaces();
   if (!m_order.IsSorted() || !std::isfinite(m_tolerance) || !(m_tolerance > 0)) return false;
   long long candidates = 0;
   int low = 0;
   for (int place = 0; place < count; ++place) {
-    while (m_order.PointItem(place) - m_order.PointItem(low) > m_tolerance) ++low;
+    while (AlongAt(place) - AlongAt(low) > m_tolerance) ++low;
     candidates += place - low;
   }
   return candidates > kOftenMet * count;
 }
 
 bool NodeSweep::Counts(int place, int other, JointTies const& ties) const {
-  int const node = m_order.Ref(other);
-  return m_order.IsItemIncluded(node) && !ties.AreTied(m_order.Ref(place), node);
+  int const node = NodeAt(other);
+  return m_order.IsItemIncluded(node) && !ties.AreTied(NodeAt(place), node);
 }
 
 NodeSweep::Best NodeSweep::BySlice(int place, JointTies const& ties) const {
   Best best{m_tolerance, -1};
-  double const at = m_order.PointItem(place);
+  double const at = AlongAt(place);
   bool const sorted = m_order.IsSorted();
   // @return whether the sweep goes on beyond the node.
   auto const visit = [&](int other) {
-    double const along = std::abs(m_order.PointItem(other) - at);
+    double const along = std::abs(AlongAt(other) - at);
     if (along > m_tolerance) return false;
     if (sorted && along > best.distance + m_slack) return false;  // nor can any further one win
     double const distance = Length(PointAt(other) - PointAt(place));
     if (best.distance > distance && Counts(place, other, ties)) best = {distance, other};
     return true;
   };
-  for (int other = place + 1; other < m_order.NumItems() && visit(other);) ++other;
+  for (int other = place + 1; other < NumPlaces() && visit(other);) ++other;
   for (int other = place - 1; other >= 0 && visit(other);) --other;
   return best;
 }
 
 NodeSweep::Best NodeSweep::ByCells(int place, JointTies const& ties) const {
   Best best{m_tolerance, -1};
-  double const at = m_order.PointItem(place);
+  double const at = AlongAt(place);
   m_cells->ForEachNear(PointAt(place), [&](int other) {
     if (other == place) return;
     double const distance = Length(PointAt(other) - PointAt(place));
     bool const better = best.distance > distance || (best.place >= 0 && best.distance == distance &&
                                                      MeetsFirst(place, other, best.place));
-    if (better && !(std::abs(m_order.PointItem(other) - at) > m_tolerance) &&
+    if (better && !(std::abs(AlongAt(other) - at) > m_tolerance) &&
         Counts(place, other, ties))
       best = {distance, other};
   });
@@ -93,7 +92,7 @@ NodeSweep::Best NodeSweep::ByCells(int place, JointTies const& ties) const {
 
 int NodeSweep::Nearest(int place, JointTies const& ties) const {
   auto const best = m_cells ? ByCells(place, ties) : BySlice(place, ties);
-  return best.place < 0 ? 0 : m_order.Ref(best.place);
+  return best.place < 0 ? 0 : NodeAt(best.place);
 }
 
 }  // namespace Tarvex

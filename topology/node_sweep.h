@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "store/calc/order_set.h"
@@ -31,6 +32,11 @@ class NodeSweep {
   /// The node nearest to that at a place of the list that is in the set and not tied to it, 0 for
   /// none.
   int Nearest(int place, JointTies const& ties) const;
+  /// Told some questions before one for a place, so that its neighbourhood is at hand by then.
+  void Expect(int place) const {
+    __builtin_prefetch(&m_items[static_cast<std::size_t>(place)]);
+    __builtin_prefetch(&PointAt(place));
+  }
 
  private:
   struct Best {
@@ -43,9 +49,13 @@ class NodeSweep {
   Best BySlice(int place, JointTies const& ties) const;
   Best ByCells(int place, JointTies const& ties) const;
   bool Counts(int place, int other, JointTies const& ties) const;
+  int NumPlaces() const { return static_cast<int>(m_items.size()); }
+  int NodeAt(int place) const { return m_items[static_cast<std::size_t>(place)].number; }
+  double AlongAt(int place) const { return m_items[static_cast<std::size_t>(place)].projection; }
   Vec3<double> const& PointAt(int place) const { return m_points[static_cast<std::size_t>(place)]; }
 
   COrderSet const& m_order;
+  std::span<COrder::Item const> m_items;  // of the order
   double m_tolerance;
   std::vector<Vec3<double>> m_points;  // by place; not a number for a node that is gone
   double m_slack;                      // by which a projection may be further than a position

@@ -1,7 +1,9 @@
 // Coincident nodes merged or joined.
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 
+#include "frame/rebuild_hold.h"
 #include "store/model/zel_data.h"
 #include "store/record/node.h"
 #include "tarvex/coincidence.h"
@@ -92,6 +94,8 @@ template <class Walk>
 bool CReduceCoinc::RunOver(Walk&& walk) {
   Run run(m_model, m_order, m_tolerance, m_stage);
   bool const merging = IsMerge(m_option);
+  std::optional<RebuildHold> hold;  // attachments would be worked out, and out of date at once
+  if (merging) hold.emplace(m_model);
   if (merging) run.renumber.Index(Data::CEntList(m_order.TypeOf(), CString()), CModule::None);
   bool const did = walk(run);
   if (did && merging) run.renumber.Go(false);
@@ -101,8 +105,10 @@ bool CReduceCoinc::RunOver(Walk&& walk) {
 bool CReduceCoinc::Do(Util::CSet const& items, std::vector<std::pair<int, int>>& pairs) {
   return RunOver([&](Run& run) {
     bool did = false;
+    constexpr int kAhead = 16;  // items for which memory takes to answer
     int const lowest = m_order.Set().LowestItem();
     for (int n = m_order.Set().HighestItem(); n >= lowest && n > 0; --n) {
+      run.Expect(n - kAhead);
       if (!m_order.IsItemIncluded(n) || !items.IsItemIncluded(n)) continue;
       std::pair<int, int> pair{0, 0};
       if (!DoItem(n, run, pair)) continue;

@@ -1,6 +1,7 @@
 #include "store/calc/order.h"
 
 #include <algorithm>
+#include <boost/sort/pdqsort/pdqsort.hpp>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -46,7 +47,7 @@ void COrder::Put(Item const& item) {
 
 void COrder::Sort() {
   m_settled = m_items.size();
-  std::sort(m_items.begin(), m_items.end());
+  boost::sort::pdqsort_branchless(m_items.begin(), m_items.end());
   m_sorted = true;
   m_placesKnown = false;
 }
@@ -58,7 +59,7 @@ void COrder::Settle() const {
   m_settled = m_items.size();
 }
 
-int COrder::PlaceOf(int number) const {
+PagedTable<int> const& COrder::Places() const {
   auto const& items = Items();
   if (!m_placesKnown) {
     m_places.Clear();
@@ -66,7 +67,11 @@ int COrder::PlaceOf(int number) const {
       m_places.Set(items[place].number, static_cast<int>(place));
     m_placesKnown = true;
   }
-  auto const* const place = m_places.Find(number);
+  return m_places;
+}
+
+int COrder::PlaceOf(int number) const {
+  auto const* const place = Places().Find(number);
   return place == nullptr ? -1 : *place;
 }
 

@@ -14,6 +14,17 @@ namespace Tarvex {
 /// list count from 0. What is added to a sorted list comes to its place with the next question.
 class TARVEX_STORE_EXPORT COrder {
  public:
+  /// A number and its projection, model length units.
+  struct Item {
+    double projection;
+    int number;
+    friend bool operator<(Item const& a, Item const& b) {
+      // Without branches, which no processor could foretell in a sort.
+      return (a.projection < b.projection) |
+             ((a.projection == b.projection) & (a.number < b.number));
+    }
+  };
+
   /// Takes a direction. It is brought to length 1, so that differences of projections are lengths;
   /// one shorter than machine epsilon becomes the zero vector, on which all projections are 0. The
   /// list stays as it is until it is created anew.
@@ -21,6 +32,13 @@ class TARVEX_STORE_EXPORT COrder {
   Vec3<double> const& OrderVector() const { return m_vector; }
 
   int NumItems() const { return static_cast<int>(Items().size()); }
+  /// The items by place. Good, like Places, until the list changes.
+  std::vector<Item> const& Items() const {
+    if (m_settled < m_items.size()) Settle();
+    return m_items;
+  }
+  /// The places of the items by number.
+  PagedTable<int> const& Places() const;
   /// Projection of the item at a place, model length units; std::out_of_range "invalid vector
   /// subscript" when there is none.
   double PointItem(int place) const;
@@ -33,14 +51,6 @@ class TARVEX_STORE_EXPORT COrder {
   int FirstFrom(double projection) const;
 
  protected:
-  struct Item {
-    double projection;
-    int number;
-    friend bool operator<(Item const& a, Item const& b) {
-      return a.projection != b.projection ? a.projection < b.projection : a.number < b.number;
-    }
-  };
-
   COrder();
   COrder(COrder const&);
   COrder(COrder&&) noexcept;
@@ -54,10 +64,6 @@ class TARVEX_STORE_EXPORT COrder {
   void Assign(std::vector<Item> items);
   /// Adds a number that the list has not, or gives one that it has a new projection.
   void Put(Item const& item);
-  std::vector<Item> const& Items() const {
-    if (m_settled < m_items.size()) Settle();
-    return m_items;
-  }
   /// Place of a number, -1 when the list has it not.
   int PlaceOf(int number) const;
 
