@@ -23,8 +23,7 @@ class CornerNodes {
   static constexpr int kNone = -1;
 
   /// Takes the nodes that a model has now; those that are added to it later are no corners.
-  explicit CornerNodes(CZelData const& model)
-      : m_model(model), m_highest(model.HighestNode()) {}
+  explicit CornerNodes(CZelData const& model) : m_model(model), m_highest(model.HighestNode()) {}
 
   /// The place of a node, counted from 0; kNone for one that is no corner.
   int PlaceOf(int number) {
