@@ -219,10 +219,22 @@ class Comparison {
                "Table A1.1, has no row for rain: the factor is the engineer's to set");
   }
 
-  /// Roofs are taken with the imposed action of their source only, both leading.
+  bool HasOnlyImposedVariable() const {
+    auto const& actions = m_run.plan.actions;
+    return std::none_of(actions.begin(), actions.end(), [](auto const& entry) {
+      auto const type = entry.second.TypeOf();
+      return TensOf(type) == kVariableActions && type != CaseType::Imposed &&
+             type != CaseType::ImposedRoof;
+    });
+  }
+  /// Roofs are taken with the imposed action of their source only, both leading. Without variable
+  /// actions of other kinds that action never accompanies either.
   void CompareRoofs(WrittenFamily const& family, std::string const& clause) {
+    bool const onlyImposed = CountActions(CaseType::ImposedRoof) > 0 && HasOnlyImposedVariable();
     for (auto const& [n, title] : m_run.plan.actions) {
-      if (title.TypeOf() != CaseType::ImposedRoof || !family.offered.contains(n)) continue;
+      bool const leadsOnly = title.TypeOf() == CaseType::ImposedRoof ||
+                             (title.TypeOf() == CaseType::Imposed && onlyImposed);
+      if (!leadsOnly || !family.offered.contains(n)) continue;
       double const factor = AccompanyingFactor(family.type, title);
       if (factor == 0) continue;
       auto const psi = "psi" + std::to_string(AccompanyingPsi(family.type));

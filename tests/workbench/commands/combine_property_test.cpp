@@ -52,10 +52,13 @@ bool HasFloor(CZelData const& model, int source, int category) {
 CZelData RandomActions(Random& random) {
   CZelData model;
   model.SetAnalysisTask(1, CZssTask(L"", AnalSoln::Static));
-  if (random.Percent(90)) AddAction(model, CaseType::SelfWeight, 1, 0);
+  bool const hasSelfWeight = random.Percent(90);
+  if (hasSelfWeight) AddAction(model, CaseType::SelfWeight, 1, 0);
   if (random.Percent(20)) AddAction(model, CaseType::SelfWeight, 2, 0);
   if (random.Percent(20)) AddAction(model, CaseType::Prestress, 1, 0);
-  for (int category = 1; category <= 8; ++category)
+  // Of the factors of floors of category 8 none but the leading ones are more than 0: without self
+  // weight a family with persistent factors might differ in nothing.
+  for (int category = 1; category <= (hasSelfWeight ? 8 : 7); ++category)
     if (random.Percent(15))
       AddAction(model, CaseType::Imposed, random.Percent(85) ? 1 : 2, category);
   for (int source = 1; source <= 2; ++source)
@@ -106,6 +109,12 @@ std::array<double, 3> PsiOfTableA11(Title const& title, bool isHigh) {
 
 bool IsVariable(Title const& title) { return static_cast<int>(title.TypeOf()) / 10 == 3; }
 
+bool Has(CZelData const& model, CaseType type) {
+  for (auto const& [n, title] : model.LoadCaseTitle())
+    if (title.TypeOf() == type) return true;
+  return false;
+}
+
 /// Whether another variable action may lead while this one accompanies: one of another kind.
 bool CanAccompany(CZelData const& model, Title const& title) {
   for (auto const& [n, other] : model.LoadCaseTitle())
@@ -136,10 +145,12 @@ Factors OfTheStandard(CZelData const& model, Title const& title, Family family) 
   return {psi[2]};
 }
 
-/// Whether factors differ. A 0 counts for permanent, imposed and accidental actions; the others
-/// are absent where a roof or another source of their kind acts.
+/// Whether factors differ. A 0 counts for permanent, imposed and accidental actions; those of
+/// category 8 have it as their own accompanying value, and the others are absent where a roof or
+/// another source of their kind acts.
 bool Differ(Factors ours, Factors standard, Title const& title) {
-  bool const zeroCounts = !IsVariable(title) || title.TypeOf() == CaseType::Imposed;
+  bool const zeroCounts =
+      !IsVariable(title) || (title.TypeOf() == CaseType::Imposed && title.Category() != 8);
   if (!zeroCounts) {
     ours.erase(0);
     standard.erase(0);
@@ -148,12 +159,17 @@ bool Differ(Factors ours, Factors standard, Title const& title) {
                      [](double a, double b) { return std::abs(a - b) < kSame; });
 }
 
-/// Whether the standard has a roof beside an action that leads, which the command never has. Its
-/// factor there may be one that it has elsewhere too.
+/// Whether the standard has a roof beside an action that leads, or a floor beside its roof and
+/// nothing else, which the command never has. The factor there may be one that it has elsewhere
+/// too.
 bool MissesItsPlace(CZelData const& model, Title const& title, Family family) {
   bool const leads = family == kPersistent || family == kAccidental || family == kCharacteristic;
-  if (title.TypeOf() != CaseType::ImposedRoof || !leads || !CanAccompany(model, title))
+  if (!leads || !CanAccompany(model, title)) return false;
+  bool const isFloor = title.TypeOf() == CaseType::Imposed;
+  if (isFloor && (Has(model, CaseType::Wind) || Has(model, CaseType::Snow) ||
+                  !Has(model, CaseType::ImposedRoof)))
     return false;
+  if (!isFloor && title.TypeOf() != CaseType::ImposedRoof) return false;
   return PsiOfTableA11(title, false)[family == kAccidental ? 2 : 0] != 0;
 }
 

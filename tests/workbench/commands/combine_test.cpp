@@ -492,6 +492,15 @@ TEST_F(Combine, WarnsOfRoofsThatNeverAccompany) {
   }
 }
 
+TEST_F(Combine, WarnsOfFloorsThatNeverAccompanyTheirRoof) {
+  auto const floor = R"("type": 31, "category": 1)";
+  std::vector<std::string> titles{kSelfWeight, floor, kOffices, Roof(1, 8)};
+  auto const clause = "psi0, 0.7; EN 1990, 6.4.3.2 (6.10), has it there";
+  EXPECT_EQ(RoofWarnings(Cases(titles), "persistent", false), (Texts{clause, clause}));
+  titles.push_back(kWind);  // beside which they do
+  EXPECT_EQ(RoofWarnings(Cases(titles), "persistent", false), Texts());
+}
+
 /// A model of some actions with an earthquake along x.
 std::string InAnEarthquake(std::vector<std::string> const& titles) {
   auto text = Cases(titles, R"(, {"n": 99, "description": "M1", "task": 2, "modeDirection": 1})");
