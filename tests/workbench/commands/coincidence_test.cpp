@@ -178,7 +178,7 @@ TEST_F(CoincidenceCommand, BadValuesAreRefusedWithTwo) {
        {Row{{"merge-nodes", "--tolerance", "-1"}, "--tolerance: '-1' is not at least 0\n"},
         {{"merge-nodes", "--properties", "most"},
          "--properties: 'most' is not one of greater|lesser|kept\n"},
-        {{"merge-nodes", "--with", "1 to"}, "character 3: a range without its end\n"},
+        {{"merge-nodes", "--with", "1 to"}, "--with: character 3: a range without its end\n"},
         {{"join-nodes", "--stage", "-1"}, "--stage: '-1' is not at least 0\n"},
         {{"find-overlaps", "--kind", "node"}, "--kind: 'node' is not one of element|member\n"}}) {
     row.words.insert(row.words.begin() + 1, model);
