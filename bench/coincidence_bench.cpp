@@ -9,12 +9,20 @@
 //   MergeFrame          the beams and columns of a building
 //   MergeShuffledFrame  the same with its numbers in no order
 //   FindInFrame         the search of the frame alone, which changes nothing
+//
+// Memory, bytes a node before the merge, each the most that a job takes at a time beyond the model:
+//
+//   search B   the search alone: set, sorted list, cells (at most 64, found pairs with them)
+//   pairs B    the pairs that it found
+//   merge B    the whole job: search and pairs, the snapshot and the pages that it rewrites
+//   model B    the model itself, for comparison: all its tables
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cmath>
 #include <random>
 
+#include "bench/memory_count.h"
 #include "bench/plate.h"
 #include "store/record/element.h"
 #include "store/record/node.h"
@@ -108,10 +116,40 @@ Count MakeLooseFrame(CZelData& model, long nodes, bool shuffled) {
   return {count, (b + 1LL) * (b + 1LL) * (b + 1LL)};
 }
 
+/// The most that a job takes beyond the model. A merge changes the model.
+long long MemoryOf(CZelData& model, Util::CSet const& all, CReduceCoinc::Option option,
+                   std::vector<std::pair<int, int>>& pairs) {
+  MemoryCount const count;
+  CReduceCoinc tool(model, kTolerance, 0);
+  tool.SetOption(option);
+  tool.SetSearchSet(all, CReduceCoinc::kWholeSearch);
+  tool.Do(all, pairs);
+  return count.Most();
+}
+
+void TellMemory(benchmark::State& state, CZelData const& loose, Util::CSet const& all,
+                CReduceCoinc::Option option, double nodes) {
+  std::vector<std::pair<int, int>> pairs;
+  CZelData model(loose);
+  auto const search = MemoryOf(model, all, CReduceCoinc::OptionFind, pairs);
+  state.counters["search B"] = static_cast<double>(search) / nodes;
+  if (option == CReduceCoinc::OptionFind) return;
+  state.counters["merge B"] = static_cast<double>(MemoryOf(model, all, option, pairs)) / nodes;
+  state.counters["pairs B"] = static_cast<double>(pairs.size() * sizeof(pairs[0])) / nodes;
+}
+
+/// What a workload makes, and the memory that it takes, bytes.
+template <class Make>
+std::pair<Count, long long> Counted(CZelData& model, long size, Make const& make) {
+  MemoryCount const memory;
+  auto const count = make(model, size);
+  return {count, memory.Held()};
+}
+
 template <class Make>
 void Run(benchmark::State& state, CReduceCoinc::Option option, Make&& make) {
   CZelData loose;
-  Count const count = make(loose, state.range(0));
+  auto const [count, taken] = Counted(loose, state.range(0), make);
   Util::CSet all(SelNode);
   for (int n = 1; n <= loose.HighestNode(); ++n) all.AddTo(n);
   for (auto _ : state) {
@@ -131,6 +169,9 @@ void Run(benchmark::State& state, CReduceCoinc::Option option, Make&& make) {
     state.ResumeTiming();
   }
   state.SetItemsProcessed(state.iterations() * count.before);
+  auto const nodes = static_cast<double>(count.before);
+  state.counters["model B"] = static_cast<double>(taken) / nodes;
+  TellMemory(state, loose, all, option, nodes);
 }
 
 constexpr Vec3<double> kX{1, 0, 0};

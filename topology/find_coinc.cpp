@@ -28,12 +28,12 @@ void RequireTopology(SelType kind) {
   if (kind != SelElement && kind != SelMember) throw std::out_of_range("bad entity type");
 }
 
-/// Calls visit(place) upwards from behind a place to the end of a range, then downwards from before
+/// Calls visit(place) upwards from behind a place to the end of a list, then downwards from before
 /// it to the start. A direction ends where visit gives false.
 template <class Visit>
-void Sweep(int place, PlaceRange const& range, Visit&& visit) {
-  for (int i = place + 1; i < range.end && visit(i);) ++i;
-  for (int i = place - 1; i >= range.first && visit(i);) --i;
+void Sweep(int place, int count, Visit&& visit) {
+  for (int i = place + 1; i < count && visit(i);) ++i;
+  for (int i = place - 1; i >= 0 && visit(i);) --i;
 }
 
 std::size_t CornersOf(Data::TopoVector const& nodes) {
@@ -46,6 +46,37 @@ bool HasPointEdge(NodePoints const& corners) {
   for (std::size_t i = 0; i < corners.size(); ++i)
     if (Length(corners[(i + 1) % corners.size()] - corners[i]) < kZeroVector) return true;
   return false;
+}
+
+/// The straight line between the ends of an item.
+struct EndLine {
+  Vec3<double> start;
+  Vec3<double> end;
+  double length;
+};
+
+/// Empty where a node is missing, and for a line without length.
+std::optional<EndLine> EndLineOf(CZelData const& model, std::optional<EndNodes> const& ends) {
+  if (!ends || !model.NodeExist(ends->first) || !model.NodeExist(ends->last)) return std::nullopt;
+  auto const start = model.NodeCoor(ends->first);
+  auto const end = model.NodeCoor(ends->last);
+  double const length = Length(end - start);
+  if (length < kZeroLength) return std::nullopt;
+  return EndLine{start, end, length};
+}
+
+// Distance of crossing lines, and of the crossing from their ends, model length units.
+constexpr double kCrossing = 0.001;
+
+/// Whether two lines come near one another at a place inside of both.
+bool CrossInside(EndLine const& a, EndLine const& b) {
+  auto const isInside = [](double fraction, double length) {
+    return kCrossing < fraction * length && fraction * length < length - kCrossing;
+  };
+  auto const closest = DistanceBetweenLines(a.start, a.end, b.start, b.end);
+  return !std::isnan(closest.ra) && !std::isnan(closest.rb) &&
+         std::abs(closest.distance) <= kCrossing && isInside(closest.ra, a.length) &&
+         isInside(closest.rb, b.length);
 }
 
 }  // namespace
@@ -93,7 +124,7 @@ int CReduceCoinc::FindNode(int item, int place, bool whole) const {
   auto const centre = m_model.NodeCoor(item);
   double best = m_tolerance;
   int found = 0;
-  Sweep(place, {0, m_order.NumItems()}, [&](int i) {
+  Sweep(place, m_order.NumItems(), [&](int i) {
     if (!whole && std::abs(m_order.PointItem(i) - at) > m_tolerance) return false;
     int const other = m_order.Ref(i);
     if (!m_order.IsItemIncluded(other) || excluded.contains(other)) return true;
@@ -134,7 +165,7 @@ int CReduceCoinc::FindEntity(int item, int place) const {
   auto const centre = m_model.EntCentre({kind, item});
   double const at = m_order.PointItem(place);
   int found = 0;
-  Sweep(place, {0, m_order.NumItems()}, [&](int i) {
+  Sweep(place, m_order.NumItems(), [&](int i) {
     if (found != 0 || std::abs(m_order.PointItem(i) - at) > m_tolerance) return false;
     int const other = m_order.Ref(i);
     if (other == item || !m_order.IsItemIncluded(other) || !m_model.EntExist({kind, other}))
@@ -157,11 +188,8 @@ int CReduceCoinc::FindOverlapping(int item, int place) const {
   auto const centre = m_model.EntCentre(ref);
   bool const any = HasPointEdge(PointsOf(m_model, nodes, CornersOf(nodes)));
   auto const box = any ? Util::CBox3D() : ItemExtents::BoxOf(m_model, ref);
-  auto const& extents = Extents();
   int found = 0;
-  Sweep(place, extents.Near(m_order, box, m_tolerance), [&](int i) {
-    if (found != 0) return false;
-    if (!extents.MayTouch(i, box, m_tolerance)) return true;
+  Extents().Sweep(m_order, place, box, m_tolerance, [&](int i) {
     int const other = m_order.Ref(i);
     if (other == item || !m_order.IsItemIncluded(other) || !m_model.EntExist({kind, other}))
       return true;
@@ -189,41 +217,25 @@ bool CReduceCoinc::IsTopoCoinc(SelType kind, int a, int b) const {
 }
 
 int CReduceCoinc::FindCross(int item) {
-  // Distance of the lines, and of the crossing from their ends, model length units.
-  constexpr double kCrossing = 0.001;
   auto const kind = m_order.TypeOf();
   RequireTopology(kind);
   auto const ends = EndNodesOf(m_model, {kind, item});
-  if (!ends || !m_model.NodeExist(ends->first) || !m_model.NodeExist(ends->last)) return 0;
-  auto const a0 = m_model.NodeCoor(ends->first);
-  auto const a1 = m_model.NodeCoor(ends->last);
-  double const length = Length(a1 - a0);
-  if (length < kZeroLength) return 0;
+  auto const line = EndLineOf(m_model, ends);
+  if (!line) return 0;
   Util::CBox3D box;
-  for (auto const& end : {a0, a1}) box.AddPoint(end);
-  auto const isInside = [](double fraction, double whole) {
-    return kCrossing < fraction * whole && fraction * whole < whole - kCrossing;
-  };
-  auto const& extents = Extents();
-  auto const range = extents.Near(m_order, box, kCrossing);
-  for (int i = range.first; i < range.end; ++i) {
-    if (!extents.MayTouch(i, box, kCrossing)) continue;
+  for (auto const& end : {line->start, line->end}) box.AddPoint(end);
+  constexpr int kBeforeTheList = -1;
+  int found = 0;
+  Extents().Sweep(m_order, kBeforeTheList, box, kCrossing, [&](int i) {
     int const other = m_order.Ref(i);
-    if (other == item) continue;
+    if (other == item) return true;
     auto const others = EndNodesOf(m_model, {kind, other});
-    if (!others || ends->Has(others->first) || ends->Has(others->last)) continue;
-    if (!m_model.NodeExist(others->first) || !m_model.NodeExist(others->last)) continue;
-    auto const b0 = m_model.NodeCoor(others->first);
-    auto const b1 = m_model.NodeCoor(others->last);
-    double const otherLength = Length(b1 - b0);
-    if (otherLength < kZeroLength) continue;
-    auto const closest = DistanceBetweenLines(a0, a1, b0, b1);
-    if (std::isnan(closest.ra) || std::isnan(closest.rb)) continue;
-    if (std::abs(closest.distance) <= kCrossing && isInside(closest.ra, length) &&
-        isInside(closest.rb, otherLength))
-      return other;
-  }
-  return 0;
+    if (!others || ends->Has(others->first) || ends->Has(others->last)) return true;
+    auto const otherLine = EndLineOf(m_model, others);
+    if (otherLine && CrossInside(*line, *otherLine)) found = other;
+    return found == 0;
+  });
+  return found;
 }
 
 int CReduceCoinc::FindUnconnect(int item) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
 #include "store/model/zel_data.h"
 #include "store/record/element.h"
@@ -19,6 +20,15 @@ std::array<std::uint64_t, 4> RevisionsOf(CZelData const& model) {
           model.Member().Revision()};
 }
 
+// Reach of what has no box, or none that is known: it may be anywhere.
+constexpr double kEver = std::numeric_limits<double>::infinity();
+
+/// Items whose boxes reach up to four times as far as one another are of one level.
+int LevelOf(double reach) {
+  if (!std::isfinite(reach)) return std::numeric_limits<int>::max();
+  return reach > 0 ? std::ilogb(reach) / 2 : std::numeric_limits<int>::min();
+}
+
 double Largest(Vec3<double> const& p) {
   return std::max({std::abs(p.x), std::abs(p.y), std::abs(p.z)});
 }
@@ -27,15 +37,20 @@ double Largest(Vec3<double> const& p) {
 
 ItemExtents::ItemExtents(COrderSet const& order, CZelData const& model)
     : m_revisions(RevisionsOf(model)) {
+  std::map<int, Level> levels;
   m_boxes.reserve(static_cast<std::size_t>(order.NumItems()));
   for (int place = 0; place < order.NumItems(); ++place) {
     auto const box = BoxOf(model, {order.TypeOf(), order.Ref(place)});
     auto const along = Along(order, box);
     double const at = order.PointItem(place);
-    m_reach = std::max({m_reach, along.high - at, at - along.low});
+    double const reach = std::max(along.high - at, at - along.low);
+    auto& level = levels[LevelOf(reach)];
+    level.reach = std::isfinite(reach) ? std::max(level.reach, reach) : kEver;
+    level.places.push_back(place);
     m_size = std::max({m_size, Largest(box.Min()), Largest(box.Max())});
     m_boxes.push_back(box);
   }
+  for (auto& [number, level] : levels) m_levels.push_back(std::move(level));
 }
 
 bool ItemExtents::IsOf(CZelData const& model) const { return m_revisions == RevisionsOf(model); }
@@ -48,8 +63,6 @@ Util::CBox3D ItemExtents::BoxOf(CZelData const& model, SEntRef const& ref) {
 }
 
 ItemExtents::Interval ItemExtents::Along(COrderSet const& order, Util::CBox3D const& box) {
-  // What has no box may be anywhere.
-  constexpr double kEver = std::numeric_limits<double>::infinity();
   if (box.IsEmpty()) return {-kEver, kEver};
   auto const& v = order.OrderVector();
   auto const half = (box.Max() - box.Min()) * 0.5;
@@ -64,15 +77,57 @@ double ItemExtents::Margin(double distance) const {
   return distance * (1 + kRounding) + m_size * kRounding;
 }
 
-PlaceRange ItemExtents::Near(COrderSet const& order, Util::CBox3D const& box,
-                             double distance) const {
+ItemExtents::Rows ItemExtents::RowsNear(COrderSet const& order, Util::CBox3D const& box,
+                                        double distance) const {
   auto const along = Along(order, box);
-  // Boxes as far apart in each direction are up to the root of three as far apart.
-  double const apart = 2 * Margin(distance) + m_reach;
-  bool const any = !order.IsSorted() || !std::isfinite(apart) || !std::isfinite(along.low) ||
-                   !std::isfinite(along.high);
-  if (any) return {0, order.NumItems()};
-  return {order.FirstFrom(along.low - apart), order.FirstAbove(along.high + apart)};
+  auto const& items = order.Items();
+  auto const projection = [&](int place) {
+    return items[static_cast<std::size_t>(place)].projection;
+  };
+  Rows rows;
+  for (auto const& level : m_levels) {
+    Row const all(level.places);
+    // Boxes as far apart in each direction are up to the root of three as far apart.
+    double const apart = 2 * Margin(distance) + level.reach;
+    bool const any = !order.IsSorted() || !std::isfinite(apart) || !std::isfinite(along.low) ||
+                     !std::isfinite(along.high);
+    auto const first =
+        any ? all.begin() : std::ranges::lower_bound(all, along.low - apart, {}, projection);
+    auto const end =
+        any ? all.end() : std::ranges::upper_bound(all, along.high + apart, {}, projection);
+    if (first < end) rows.emplace_back(first, end);
+  }
+  return rows;
+}
+
+ItemExtents::Rows ItemExtents::Above(Rows rows, int place) {
+  for (auto& row : rows) row = Row(std::ranges::upper_bound(row, place), row.end());
+  return rows;
+}
+
+ItemExtents::Rows ItemExtents::Below(Rows rows, int place) {
+  for (auto& row : rows) row = Row(row.begin(), std::ranges::lower_bound(row, place));
+  return rows;
+}
+
+int ItemExtents::TakeLowest(Rows& rows) {
+  Row* best = nullptr;
+  for (auto& row : rows)
+    if (!row.empty() && (best == nullptr || row.front() < best->front())) best = &row;
+  if (best == nullptr) return -1;
+  int const place = best->front();
+  *best = best->subspan(1);
+  return place;
+}
+
+int ItemExtents::TakeHighest(Rows& rows) {
+  Row* best = nullptr;
+  for (auto& row : rows)
+    if (!row.empty() && (best == nullptr || row.back() > best->back())) best = &row;
+  if (best == nullptr) return -1;
+  int const place = best->back();
+  *best = best->first(best->size() - 1);
+  return place;
 }
 
 bool ItemExtents::MayTouch(int place, Util::CBox3D const& box, double distance) const {

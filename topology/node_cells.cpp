@@ -6,14 +6,23 @@
 #include <limits>
 
 namespace Tarvex {
+namespace {
+
+// By how much a cell is wider than the greatest distance: for the rounding of distances and
+// indices.
+constexpr double kSpare = 1.001;
+// Below it, distances lose themselves in squares that are too small for a double.
+constexpr double kLeastWidth = 1e-150;
+
+}  // namespace
 
 NodeCells::NodeCells(std::span<Vec3<double> const> points, double width)
-    : m_width(width),
+    : m_width(std::max(width, kLeastWidth) * kSpare),
       m_heads(std::bit_floor(std::max<std::size_t>(points.size(), 1)), -1),
       m_next(points.size(), -1) {
   for (std::size_t i = 0; i < points.size(); ++i) {
     if (!IsFinite(points[i])) continue;
-    auto& head = m_heads[SlotOf(CellOf(points[i], 0))];
+    auto& head = m_heads[SlotOf(CellOf(points[i]))];
     m_next[i] = head;
     head = static_cast<int>(i);
   }
@@ -23,16 +32,17 @@ bool NodeCells::IsFinite(Vec3<double> const& p) {
   return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
 }
 
-NodeCells::Cell NodeCells::CellOf(Vec3<double> const& point, int widths) const {
+/// Two co-ordinates up to the greatest distance apart must get the same index or neighbouring ones,
+/// rounding included. Up to 2^40 widths the index counts widths, which rounding changes by less
+/// than 2^-12; from there on it follows the logarithm, which goes on with the same slope and ever
+/// less.
+NodeCells::Cell NodeCells::CellOf(Vec3<double> const& point) const {
+  constexpr double kEven = 0x1p40;
   auto const index = [&](double coordinate) {
-    constexpr double kBound = 4e18;  // within what an integer holds
-    // A little more than the width, so that rounding leaves out no cell; dividing and rounding down
-    // keep the order of co-ordinates.
-    double const reach =
-        widths *
-        (m_width * (1 + 1e-12) + std::abs(coordinate) * std::numeric_limits<double>::epsilon() * 4);
-    return static_cast<std::int64_t>(
-        std::clamp(std::floor((coordinate + reach) / m_width), -kBound, kBound));
+    double const widths =
+        std::min(std::abs(coordinate) / m_width, std::numeric_limits<double>::max());
+    double const along = widths <= kEven ? widths : kEven * (1 + std::log(widths / kEven));
+    return static_cast<std::int64_t>(std::floor(std::copysign(along, coordinate)));
   };
   return {index(point.x), index(point.y), index(point.z)};
 }

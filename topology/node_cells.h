@@ -10,7 +10,9 @@
 namespace Tarvex {
 
 /// A hash of cells that holds the places of points in a row; at most 8 bytes a point. The width is
-/// that of the questions alone, so that a point far away changes nothing for the others.
+/// that of the questions, so that a point far away changes nothing for the others. Where
+/// co-ordinates are so great that their last digits come near it, cells grow with them: a question
+/// always looks at 27.
 class NodeCells {
  public:
   /// @param width the greatest distance that will be asked for, finite and above 0.
@@ -21,11 +23,10 @@ class NodeCells {
   template <class Visit>
   void ForEachNear(Vec3<double> const& point, Visit&& visit) const {
     if (!IsFinite(point)) return;
-    auto const low = CellOf(point, -1);
-    auto const high = CellOf(point, 1);
-    for (auto x = low.x; x <= high.x; ++x)
-      for (auto y = low.y; y <= high.y; ++y)
-        for (auto z = low.z; z <= high.z; ++z)
+    auto const cell = CellOf(point);
+    for (auto x = cell.x - 1; x <= cell.x + 1; ++x)
+      for (auto y = cell.y - 1; y <= cell.y + 1; ++y)
+        for (auto z = cell.z - 1; z <= cell.z + 1; ++z)
           for (int i = m_heads[SlotOf({x, y, z})]; i >= 0; i = m_next[static_cast<std::size_t>(i)])
             visit(i);
   }
@@ -38,11 +39,10 @@ class NodeCells {
   };
 
   static bool IsFinite(Vec3<double> const& p);
-  /// The cell of a point, moved by so many widths in each direction.
-  Cell CellOf(Vec3<double> const& point, int widths) const;
+  Cell CellOf(Vec3<double> const& point) const;
   std::size_t SlotOf(Cell const& cell) const;
 
-  double m_width;
+  double m_width;            // of a cell near the origin
   std::vector<int> m_heads;  // first place of a slot, -1 for none
   std::vector<int> m_next;
 };

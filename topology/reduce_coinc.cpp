@@ -71,7 +71,10 @@ CReduceCoinc::CReduceCoinc(CReduceCoinc const&) = default;
 CReduceCoinc::CReduceCoinc(CReduceCoinc&&) noexcept = default;
 CReduceCoinc::~CReduceCoinc() = default;
 
-void CReduceCoinc::SetOrderVector(Vec3<double> const& vector) { m_order.SetOrderVector(vector); }
+void CReduceCoinc::SetOrderVector(Vec3<double> const& vector) {
+  m_extents.reset();
+  m_order.SetOrderVector(vector);
+}
 
 bool CReduceCoinc::SetSearchSet(Util::CSet const& set, int flags) {
   m_extents.reset();
@@ -106,10 +109,11 @@ bool CReduceCoinc::Do(Util::CSet const& items, std::vector<std::pair<int, int>>&
   return RunOver([&](Run& run) {
     bool did = false;
     constexpr int kAhead = 16;  // items for which memory takes to answer
-    int const lowest = m_order.Set().LowestItem();
-    for (int n = m_order.Set().HighestItem(); n >= lowest && n > 0; --n) {
+    int const lowest = items.LowestItem();
+    // What a merge takes out was passed before: no number comes up that is gone.
+    for (int n = items.HighestItem(); n >= lowest && n > 0; --n) {
       run.Expect(n - kAhead);
-      if (!m_order.IsItemIncluded(n) || !items.IsItemIncluded(n)) continue;
+      if (!items.IsItemIncluded(n)) continue;
       std::pair<int, int> pair{0, 0};
       if (!DoItem(n, run, pair)) continue;
       did = true;
@@ -129,10 +133,23 @@ bool CReduceCoinc::Do(int first, int count) {
   });
 }
 
-bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
+std::vector<std::pair<int, int>> CReduceCoinc::FindAllCoinc(Util::CSet const& items) const {
+  Run run(m_model, m_order, m_tolerance, m_stage);
+  std::vector<std::pair<int, int>> found;
+  for (int const n : items)
+    if (int const other = FindIn(run, n); other != 0) found.emplace_back(n, other);
+  return found;
+}
+
+/// As FindCoinc, with what a run keeps at hand.
+int CReduceCoinc::FindIn(Run& run, int item) const {
   int const place = m_order.GetIndexFromRef(item);
   bool const listed = m_order.TypeOf() == SelNode && place >= 0 && m_model.NodeExist(item);
-  int const other = listed ? run.Nearest(place) : FindCoinc(item, false);
+  return listed ? run.Nearest(place) : FindCoinc(item, false);
+}
+
+bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
+  int const other = FindIn(run, item);
   if (other == 0) return false;
   bool const merging = IsMerge(m_option);
   if (!merging && m_option != OptionJoint) return true;

@@ -62,7 +62,8 @@ class TARVEX_EXPORT CReduceCoinc {
   void SetOption(Option option) { m_option = option; }
   void SetStage(int stage) { m_stage = stage; }
   /// The direction of the search, of any length above 0; for a caller that does not let
-  /// SetSearchSet find one. To be set before the items are listed.
+  /// SetSearchSet find one. To be set before the items are listed: those that are keep the places
+  /// that they have.
   void SetOrderVector(Vec3<double> const& vector);
 
   /// Takes the steps that the flags name; the kind of the set says what is searched. Load panels
@@ -74,15 +75,16 @@ class TARVEX_EXPORT CReduceCoinc {
   /// Takes one out; its place in the list stays. @return whether the set held it.
   bool RemoveFromSearchSet(int number);
 
-  /// Deals with each number of the search set that is in `items`, from the highest down, by the
-  /// option. Of two nodes the lower number stays and every reference to the other becomes one to
-  /// it, at the end of the run. A joint is not made where either node is in a constraint of the
-  /// stage. Joints and restraints go in as they are found; the model must be of nodes for a merge,
-  /// else std::out_of_range "bad entity type", with what was changed until then left as it is.
+  /// Deals with each number of `items`, in the search set or not, from the highest down, by the
+  /// option: looks for one of the search set that coincides with it. Of two nodes the lower number
+  /// stays and every reference to the other becomes one to it, at the end of the run. A joint is
+  /// not made where either node is in a constraint of the stage. Joints and restraints go in as
+  /// they are found. The search set must be of nodes for a merge or a joint, else std::out_of_range
+  /// "bad entity type", with what was changed until then left as it is.
   /// @param pairs gains (removed, kept) for each merge. @return whether anything was found and
   /// done.
   bool Do(Util::CSet const& items, std::vector<std::pair<int, int>>& pairs);
-  /// The same for `count` numbers from `first` on, in the search set or not.
+  /// The same for `count` numbers from `first` on.
   bool Do(int first, int count);
 
   // Questions. Their answer is the number of another entity, 0 for none. A search set of another
@@ -94,6 +96,9 @@ class TARVEX_EXPORT CReduceCoinc {
   /// @param overlap whether one that overlaps counts too: a line that lies along another for some
   /// of its length, a plate that covers part of another in its plane.
   int FindCoinc(int item, bool overlap) const;
+  /// FindCoinc(item, false) of many items, in less time than one by one: (item, answer) for each
+  /// that has one, ascending.
+  std::vector<std::pair<int, int>> FindAllCoinc(Util::CSet const& items) const;
   /// The first in the list whose line from end to end comes within 0.001 of that of the item, at a
   /// place more than 0.001 inside of both, without a shared end node.
   int FindCross(int item);
@@ -118,6 +123,7 @@ class TARVEX_EXPORT CReduceCoinc {
 
   template <class Walk>
   bool RunOver(Walk&& walk);
+  int FindIn(Run& run, int item) const;
   bool DoItem(int item, Run& run, std::pair<int, int>& pair);
   bool Join(int item, int other, Run& run);
   void Merge(int removed, int kept, Run& run);

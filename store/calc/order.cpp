@@ -29,45 +29,62 @@ double COrder::PointItem(int place) const { return CheckedAt(Items(), place).pro
 
 void COrder::Assign(std::vector<Item> items) {
   m_items = std::move(items);
-  m_settled = m_items.size();
+  m_added.clear();
   m_sorted = m_items.empty();
   m_placesKnown = false;
 }
 
 void COrder::Put(Item const& item) {
+  if (!m_sorted) return PutLast(item);
+  auto const* const place = SettledPlaces().Find(item.number);
+  bool const asItIs =
+      place != nullptr && m_items[static_cast<std::size_t>(*place)].projection == item.projection;
+  if (asItIs)
+    m_added.erase(item.number);
+  else
+    m_added[item.number] = item.projection;
+}
+
+void COrder::PutLast(Item const& item) {
   if (int const place = PlaceOf(item.number); place >= 0) {
     if (m_items[static_cast<std::size_t>(place)].projection == item.projection) return;
     m_items.erase(m_items.begin() + place);
-    --m_settled;
+    m_placesKnown = false;
   }
   m_items.push_back(item);
-  m_placesKnown = false;
-  if (!m_sorted) m_settled = m_items.size();
+  if (m_placesKnown) m_places.Set(item.number, static_cast<int>(m_items.size()) - 1);
 }
 
 void COrder::Sort() {
-  m_settled = m_items.size();
+  if (!m_added.empty()) Settle();
   boost::sort::pdqsort_branchless(m_items.begin(), m_items.end());
   m_sorted = true;
   m_placesKnown = false;
 }
 
 void COrder::Settle() const {
-  auto const added = m_items.begin() + static_cast<std::ptrdiff_t>(m_settled);
-  std::sort(added, m_items.end());
-  std::inplace_merge(m_items.begin(), added, m_items.end());
-  m_settled = m_items.size();
+  std::erase_if(m_items, [&](Item const& item) { return m_added.contains(item.number); });
+  auto const settled = static_cast<std::ptrdiff_t>(m_items.size());
+  for (auto const& [number, projection] : m_added) m_items.push_back({projection, number});
+  m_added.clear();
+  std::sort(m_items.begin() + settled, m_items.end());
+  std::inplace_merge(m_items.begin(), m_items.begin() + settled, m_items.end());
+  m_placesKnown = false;
 }
 
-PagedTable<int> const& COrder::Places() const {
-  auto const& items = Items();
+PagedTable<int> const& COrder::SettledPlaces() const {
   if (!m_placesKnown) {
     m_places.Clear();
-    for (std::size_t place = 0; place < items.size(); ++place)
-      m_places.Set(items[place].number, static_cast<int>(place));
+    for (std::size_t place = 0; place < m_items.size(); ++place)
+      m_places.Set(m_items[place].number, static_cast<int>(place));
     m_placesKnown = true;
   }
   return m_places;
+}
+
+PagedTable<int> const& COrder::Places() const {
+  if (!m_added.empty()) Settle();
+  return SettledPlaces();
 }
 
 int COrder::PlaceOf(int number) const {

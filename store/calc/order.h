@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <unordered_map>
 #include <vector>
 
 #include "store/export.h"
@@ -34,7 +35,7 @@ class TARVEX_STORE_EXPORT COrder {
   int NumItems() const { return static_cast<int>(Items().size()); }
   /// The items by place. Good, like Places, until the list changes.
   std::vector<Item> const& Items() const {
-    if (m_settled < m_items.size()) Settle();
+    if (!m_added.empty()) Settle();
     return m_items;
   }
   /// The places of the items by number.
@@ -62,20 +63,24 @@ class TARVEX_STORE_EXPORT COrder {
   double Projection(Vec3<double> const& point) const;
   /// Takes a new list, not sorted unless it is empty.
   void Assign(std::vector<Item> items);
-  /// Adds a number that the list has not, or gives one that it has a new projection.
+  /// Adds a number that the list has not, or gives one that it has a new projection. What is put
+  /// into a sorted list one by one costs the whole list once, at the next question.
   void Put(Item const& item);
   /// Place of a number, -1 when the list has it not.
   int PlaceOf(int number) const;
 
  private:
+  PagedTable<int> const& SettledPlaces() const;
+  void PutLast(Item const& item);
   void Settle() const;
 
   Vec3<double> m_vector;
   bool m_sorted = true;
-  // Derived from what was put in, when it is asked for: items from m_settled on await their place.
+  // The list but for what awaits its place in it, projections by number; those stand for what the
+  // list has of the same number.
   mutable std::vector<Item> m_items;
-  mutable std::size_t m_settled = 0;
-  mutable PagedTable<int> m_places;  // by number
+  mutable std::unordered_map<int, double> m_added;
+  mutable PagedTable<int> m_places;  // in m_items, by number
   mutable bool m_placesKnown = true;
 };
 

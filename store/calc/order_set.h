@@ -35,9 +35,9 @@ class TARVEX_STORE_EXPORT COrderSet : public COrder {
   /// Takes a number out of the set; the list keeps it. @return whether the set held it.
   bool RemoveFromSet(int number);
 
-  /// Chooses the order vector: of three directions at right angles to one another, on none of which
-  /// the points of a regular grid pile up, the one on which most centres are told apart. It depends
-  /// on the centres alone, not on their numbers. @return false for a set without items.
+  /// Chooses the order vector: of three directions nearly at right angles to one another, on none
+  /// of which the points of a regular grid pile up, the one on which most centres are told apart.
+  /// It depends on the centres alone, not on their numbers. @return false for a set without items.
   bool CalcOrderVector(CZelData const& model);
   /// Makes the list of the set's entities, ascending by number, in projection on the order vector.
   /// @return whether there are any.

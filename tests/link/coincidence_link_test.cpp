@@ -32,8 +32,8 @@ TEST(CoincidenceLink, EveryMemberOfTheSearchIsLinked) {
                         &CReduceCoinc::AddToSearchSet, &CReduceCoinc::RemoveFromSearchSet));
   EXPECT_TRUE(AreLinked(
       Member<bool(Util::CSet const&, std::vector<std::pair<int, int>>&)>(&CReduceCoinc::Do),
-      Member<bool(int, int)>(&CReduceCoinc::Do), &CReduceCoinc::FindCoinc, &CReduceCoinc::FindCross,
-      &CReduceCoinc::FindUnconnect,
+      Member<bool(int, int)>(&CReduceCoinc::Do), &CReduceCoinc::FindCoinc,
+      &CReduceCoinc::FindAllCoinc, &CReduceCoinc::FindCross, &CReduceCoinc::FindUnconnect,
       Member<int(Point const&, int) const>(&CReduceCoinc::ClosestItem),
       Member<int(Unit const&, Axis const&, Point const&, int) const>(&CReduceCoinc::ClosestItem),
       &CReduceCoinc::ClosestNode, &CReduceCoinc::IsTopoCoinc));

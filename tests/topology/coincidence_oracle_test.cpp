@@ -177,11 +177,15 @@ TEST(CoincidenceOracle, EachNodeFindsTheOneThatItFindsOverAllPairs) {
   ForEachCloud(200, [&](CZelData& model, Vec3<double> const& vector, double tolerance) {
     PlainSearch const plain(model, VectorOf(model, vector), tolerance);
     auto const tool = SearchBy(model, vector, tolerance);
+    Pairs expected;
     for (int const n : AllOf(model, SelNode)) {
       int const other = tool.FindCoinc(n, false);
       EXPECT_EQ(other, plain.Nearest(n)) << n;
-      if (other != 0) ++found;
+      if (other == 0) continue;
+      expected.emplace_back(n, other);
+      ++found;
     }
+    EXPECT_EQ(tool.FindAllCoinc(AllOf(model, SelNode)), expected);
   });
   EXPECT_GT(found, 3000);
 }
@@ -212,6 +216,8 @@ TEST(CoincidenceOracle, MergesWithTiesAreThoseOfTheSearchNodeByNode) {
       Testing::JoinIn(model, random.Of(nodes), random.Of(nodes), random.Percent(70) ? L"0" : L"1");
     CZelData plain(model);
     auto asked = SearchBy(plain, {1, 0, 0}, 0.15);
+    for (auto const& [n, other] : asked.FindAllCoinc(AllOf(model, SelNode)))
+      EXPECT_EQ(asked.FindCoinc(n, false), other);
     Pairs expected;
     Util::CSet alive = AllOf(model, SelNode);
     for (int n = model.HighestNode(); n > 0; --n) {
@@ -256,15 +262,17 @@ TEST(CoincidenceOracle, NodesThatMovedBehindTheListingAreFoundAsByThePlainSweep)
 
 // Elements and members.
 
-/// Lines and plates along and across one another, some of them on the same nodes.
+/// Lines and plates along and across one another, some of them on the same nodes, some far longer
+/// than the others.
 CZelData Heap(Random& random) {
   CZelData model;
   auto const point = [&] {
     return Vec3<double>{1.0 * random.Int(0, 6), 1.0 * random.Int(0, 6), 1.0 * random.Int(0, 1)};
   };
   for (int i = 0; i < 40; ++i) {
-    auto const p = point();
-    auto const q = point();
+    auto p = point();
+    auto q = point();
+    if (random.Percent(5)) p.x = -700, q.x = 70;
     if (random.Percent(60)) {
       Testing::BeamAt(model, p, random.Percent(3) ? p : q);
     } else {
@@ -279,6 +287,20 @@ CZelData Heap(Random& random) {
     }
   }
   return model;
+}
+
+/// The list of a search over a set, and the steps that give a tool the same.
+COrderSet OrderOf(CZelData const& model, Util::CSet const& set, bool sorted) {
+  COrderSet order;
+  order.SetSet(set, model, true);
+  order.CalcOrderVector(model);
+  order.CreateList(model);
+  if (sorted) order.Sort();
+  return order;
+}
+
+int StepsOf(bool sorted) {
+  return CReduceCoinc::kTakeSet | CReduceCoinc::kFindOrder | (sorted ? CReduceCoinc::kSortList : 0);
 }
 
 /// The first that an item overlaps, in the order of the sweep. Asked of a set of one item alone,
@@ -303,12 +325,9 @@ TEST(OverlapOracle, TheFirstOfTheSweepIsFoundAsByLookingAtAllOfThem) {
     auto model = Heap(random);
     double const tolerance = seed % 2 == 0 ? 0.01 : 0.6;
     auto const all = AllOf(model, SelElement);
-    COrderSet order;
-    order.SetSet(all, model, true);
-    order.CalcOrderVector(model);
-    order.CreateList(model);
-    order.Sort();
-    auto const tool = SearchOver(model, all, tolerance);
+    auto const order = OrderOf(model, all, seed % 3 != 0);
+    CReduceCoinc tool(model, tolerance, 0);
+    tool.SetSearchSet(all, StepsOf(seed % 3 != 0));
     for (int const n : all) {
       int const other = tool.FindCoinc(n, true);
       EXPECT_EQ(other, PlainOverlapping(model, order, n, tolerance)) << n;
@@ -352,12 +371,9 @@ TEST(CrossOracle, TheFirstOfTheListIsFoundAsByLookingAtAllOfThem) {
     Random random(seed);
     auto model = Heap(random);
     auto const all = AllOf(model, SelElement);
-    COrderSet order;
-    order.SetSet(all, model, true);
-    order.CalcOrderVector(model);
-    order.CreateList(model);
-    order.Sort();
-    auto tool = SearchOver(model, all, 0.01);
+    auto const order = OrderOf(model, all, seed % 3 != 0);
+    CReduceCoinc tool(model, 0.01, 0);
+    tool.SetSearchSet(all, StepsOf(seed % 3 != 0));
     for (int const n : all) {
       int const other = tool.FindCross(n);
       EXPECT_EQ(other, PlainCrossing(model, order, n)) << n;

@@ -44,6 +44,9 @@ INSTANTIATE_TEST_SUITE_P(
     Lines, CrossRule,
     ::testing::Values(CrossRow{"through its middle", {{2, -1, 0}, {2, 1, 0}}, true},
                       CrossRow{"slanting", {{1, -1, 0}, {3, 2, 0}}, true},
+                      CrossRow{"0.001 above it", {{2, -1, 0.001}, {2, 1, 0.001}}, true},
+                      CrossRow{"0.001 from its start", {{0.001, -1, 0}, {0.001, 1, 0}}, false},
+                      CrossRow{"0.001 from its end", {{3.999, -1, 0}, {3.999, 1, 0}}, false},
                       CrossRow{"0.0009 above it", {{2, -1, 0.0009}, {2, 1, 0.0009}}, true},
                       CrossRow{"0.0011 above it", {{2, -1, 0.0011}, {2, 1, 0.0011}}, false},
                       CrossRow{"ending on it", {{2, 0, 0}, {2, 1, 0}}, false},
@@ -115,6 +118,16 @@ TEST(FindCross, FollowsNodesThatMoveBehindTheListing) {
   auto tool = Search(model, SelElement, 0.001);
   EXPECT_EQ(tool.FindCross(1), 0);
   model.SetNodeCoor(3, {2, -1, 0});
+  EXPECT_EQ(tool.FindCross(1), 2);
+}
+
+TEST(FindCross, FollowsAVectorThatIsSetBehindTheListing) {
+  CZelData model;
+  BeamAt(model, {10, 0, 0}, {14, 0, 0});
+  BeamAt(model, {12, -1, 0}, {12, 1, 0});
+  auto tool = SearchAlongX(model, SelElement, 0.001);
+  EXPECT_EQ(tool.FindCross(1), 2);
+  tool.SetOrderVector({0, 1, 0});
   EXPECT_EQ(tool.FindCross(1), 2);
 }
 
@@ -236,6 +249,19 @@ TEST(ClosestItem, OfMembersGoesByTheMeanOfTheirNodes) {
   auto const tool = Search(model, SelMember, 0.1);
   EXPECT_EQ(tool.ClosestItem({4, 4, 0}, 0), 2);
   EXPECT_EQ(tool.ClosestItem({4, 4, 0}, 2), 1);
+}
+
+TEST(ClosestItem, OfEquallyNearElementsIsTheOneThatTheUpwardSweepMeets) {
+  // Centres (0, 1, 0) and (1, 0, 0), both 1 away. The sweep starts strictly above the point's
+  // projection 0, at the second.
+  CZelData model;
+  BeamAt(model, {0, 1, -1}, {0, 1, 1});
+  BeamAt(model, {1, 0, -1}, {1, 0, 1});
+  EXPECT_EQ(SearchAlongX(model, SelElement, 0.1).ClosestItem({0, 0, 0}, 0), 2);
+  CZelData row;
+  BeamAt(row, {-1, 0, -1}, {-1, 0, 1});
+  BeamAt(row, {1, 0, -1}, {1, 0, 1});
+  EXPECT_EQ(SearchAlongX(row, SelElement, 0.1).ClosestItem({0, 0, 0}, 0), 2);
 }
 
 TEST(ClosestItem, OfNothingIsNone) {

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "store/record/stages.h"
 
 namespace Tarvex::MergeNodesTest {
@@ -119,15 +122,27 @@ TEST(ReduceCoinc, OfNodesAtOnePlaceTheLowerIsNearerUpwardsInTheList) {
   EXPECT_EQ(DoAll(model, tool), (Pairs{{4, 2}, {2, 1}}));
 }
 
-TEST(ReduceCoinc, WorksOnItemsThatAreInTheSearchSetOnly) {
+TEST(ReduceCoinc, WorksOnItemsOutsideOfTheSearchSetToo) {
   CZelData model;
   NodesOnX(model, {{1, 0}, {2, 0}, {3, 0}, {4, 0}});
   auto tool = SearchOver(model, SetOf(SelNode, {1, 2, 3}), 0.1);
   Pairs pairs;
   EXPECT_TRUE(tool.Do(SetOf(SelNode, {2, 4}), pairs));
-  // 2 goes to 3, which the list has next: 3 is the one that goes.
-  EXPECT_EQ(pairs, (Pairs{{3, 2}}));
-  EXPECT_EQ(NodesIn(model), (std::vector{1, 2, 4}));
+  // 4 goes to the closest, the lowest of equal ones. 2 goes to 3, which the list has next: 3 is the
+  // one that goes.
+  EXPECT_EQ(pairs, (Pairs{{4, 1}, {3, 2}}));
+  EXPECT_EQ(NodesIn(model), (std::vector{1, 2}));
+}
+
+TEST(ReduceCoinc, WalksTheItemsWhateverTheNumbersOfTheSearchSet) {
+  for (int const outside : {2, 4, 9}) {
+    CZelData model;
+    NodesOnX(model, {{3, 0}, {5, 7}, {outside, 0}});
+    auto tool = SearchOver(model, SetOf(SelNode, {3, 5}), 0.1);
+    Pairs pairs;
+    EXPECT_TRUE(tool.Do(SetOf(SelNode, {outside}), pairs));
+    EXPECT_EQ(pairs, (Pairs{{std::max(outside, 3), std::min(outside, 3)}}));
+  }
 }
 
 TEST(ReduceCoinc, APairIsAppendedToWhatThePairsHeld) {
@@ -156,10 +171,41 @@ TEST(ReduceCoinc, ARangeNeedsNoPlaceInTheSearchSet) {
   CZelData model;
   NodesOnX(model, {{1, 0}, {2, 0.5}, {5, 0.6}});
   auto tool = SearchOver(model, SetOf(SelNode, {1, 2}), 0.25);
-  Pairs pairs;
-  EXPECT_FALSE(tool.Do(SetOf(SelNode, {5}), pairs));
   EXPECT_TRUE(tool.Do(5, 1));
   EXPECT_EQ(NodesIn(model), (std::vector{1, 2}));
+}
+
+TEST(ReduceCoinc, AnItemOutsideIsComparedWithItsClosestStrictlyBelowTheTolerance) {
+  CZelData model;
+  NodesOnX(model, {{1, 0}, {5, 0.25}});
+  auto const tool = SearchOver(model, SetOf(SelNode, {1}), 0.25);
+  EXPECT_EQ(tool.ClosestItem({0.25, 0, 0}, 5), 1);  // the radius included
+  EXPECT_EQ(tool.FindCoinc(5, false), 0);
+}
+
+TEST(ReduceCoinc, AToleranceBelowTheLastDigitOfTheCoordinatesStillMergesEqualOnes) {
+  // The next double to 1000 is 1.1e-13 away.
+  CZelData model;
+  constexpr int kCopies = 40;
+  for (int n = 1; n <= kCopies; ++n) model.CreateNode(n, {1000, 1000, 1000}, 0, Vbool6());
+  model.CreateNode(kCopies + 1, {1000, 1000, std::nextafter(1000, 0)}, 0, Vbool6());
+  auto tool = Search(model, SelNode, 1e-14);
+  EXPECT_EQ(DoAll(model, tool).size(), kCopies - 1);
+  EXPECT_EQ(NodesIn(model), (std::vector{1, kCopies + 1}));
+}
+
+TEST(ReduceCoinc, NodesThatMovedTowardsOneAnotherBehindTheListingAreMetInTheWholeTolerance) {
+  // Listed at 0, 0.1 and 0.75, now at 0.3, 0.1 and 0.35: of 1 the distance to 2 is 0.2, to 3 0.05,
+  // though 3 is 0.75 along the list.
+  CZelData model;
+  NodesOnX(model, {{1, 0}, {2, 0.1}, {3, 0.75}});
+  auto tool = SearchAlongX(model, SelNode, 1);
+  model.SetNodeCoor(1, {0.3, 0, 0});
+  model.SetNodeCoor(3, {0.35, 0, 0});
+  EXPECT_EQ(tool.FindCoinc(1, false), 3);
+  Pairs pairs;
+  tool.Do(SetOf(SelNode, {1}), pairs);
+  EXPECT_EQ(pairs, (Pairs{{3, 1}}));
 }
 
 // What the node that stays is given.
@@ -462,6 +508,16 @@ TEST(SetSearchSet, WithoutTheThirdBitLeavesTheListAscendingByNumber) {
   EXPECT_EQ(DoAll(model, tool), Pairs());
   tool.SetSearchSet(AllOf(model, SelNode), 5);
   EXPECT_EQ(tool.FindCoinc(1, false), 3);
+}
+
+TEST(SetSearchSet, WithOverlapTheWholeListIsLookedAtForNodesToo) {
+  CZelData model;
+  NodesOnX(model, {{1, 0}, {2, 9}, {3, 0}});
+  CReduceCoinc tool(model, 0.1, 0);
+  tool.SetOrderVector({1, 0, 0});
+  tool.SetSearchSet(AllOf(model, SelNode), 1);
+  EXPECT_EQ(tool.FindCoinc(1, false), 0);
+  EXPECT_EQ(tool.FindCoinc(1, true), 3);
 }
 
 TEST(SearchSet, GainsAndLosesNumbers) {

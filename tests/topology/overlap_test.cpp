@@ -79,6 +79,32 @@ TEST(FindCoincElement, RepeatedNodesAreNotTreatedSeparately) {
   EXPECT_FALSE(tool.IsTopoCoinc(SelElement, 2, 1));
 }
 
+TEST(FindCoincElement, TheCentresMustBeWithinTheTolerance) {
+  // Centres (2/3, 1/3, 0) and (2/3, 0, 0), on the same nodes.
+  CZelData model;
+  for (auto const& p : Points{{0, 0, 0}, {1, 0, 0}, {1, 1, 0}}) NodeAt(model, p.x, p.y, p.z);
+  On(model, ElementType::Tri3, {1, 2, 3});
+  On(model, ElementType::Tri3, {1, 2, 2});
+  for (auto const& [tolerance, found] : std::vector<std::pair<double, int>>{{0.1, 0}, {0.5, 2}}) {
+    EXPECT_EQ(SearchAlongX(model, SelElement, tolerance).FindCoinc(1, false), found);
+    auto const outside = SearchOver(model, SetOf(SelElement, {2}), tolerance);
+    EXPECT_EQ(outside.FindCoinc(1, false), found);
+  }
+}
+
+TEST(FindCoincElement, WithOverlapTheFirstOfTheSweepIsTakenWhetherItCoincidesOrOverlaps) {
+  // All centres at 2: the list is 1, 2, 3, and 2 lies along the others.
+  CZelData model;
+  NodeAt(model, 0, 0, 0);
+  NodeAt(model, 4, 0, 0);
+  On(model, ElementType::Beam, {1, 2});
+  BeamAt(model, {1, 0, 0}, {3, 0, 0});
+  On(model, ElementType::Beam, {1, 2});
+  auto const tool = SearchAlongX(model, SelElement, kTolerance);
+  EXPECT_EQ(tool.FindCoinc(1, true), 2);
+  EXPECT_EQ(tool.FindCoinc(1, false), 3);
+}
+
 TEST(FindCoincElement, ItemsWithoutNodesCoincide) {
   CZelData model;
   model.SetLoadPanel(1, Testing::Panel({}));
@@ -204,6 +230,24 @@ TEST(OverlapLine, TheToleranceItselfIsStillOnTheLine) {
   EXPECT_EQ(Overlapping(model, 1, SelElement, 0.249), 0);
 }
 
+TEST(OverlapLine, AnEndAtTheToleranceFromAnEndIsClearOfIt) {
+  struct Row {
+    double from;
+    double to;
+    bool overlaps;
+  };
+  // Against 0 to 4, with tolerance 0.25.
+  for (auto const& row :
+       {Row{3.75, 6, true}, Row{3.8, 6, false}, Row{6, 3.75, true}, Row{6, 3.8, false},
+        Row{-2, 0.25, true}, Row{-2, 0.2, false}, Row{0.25, -2, true}, Row{0.2, -2, false}}) {
+    CZelData model;
+    BeamAt(model, {0, 0, 0}, {4, 0, 0});
+    BeamAt(model, {row.from, 0, 0}, {row.to, 0, 0});
+    EXPECT_EQ(Overlapping(model, 1, SelElement, 0.25), row.overlaps ? 2 : 0)
+        << row.from << " to " << row.to;
+  }
+}
+
 TEST(OverlapLine, IsAskedOfTheItemsLineAndNotOfTheOther) {
   // The short line's ends are on the long line; those of the long one are 0.05 off the short
   // one's, which slopes by 0.01 in 1 and is followed for 5.
@@ -251,6 +295,48 @@ TEST(OverlapLine, FollowsNodesThatMoveBehindTheListing) {
   EXPECT_EQ(tool.FindCoinc(1, true), 2);
 }
 
+/// Beams 1 from 0 to 4 along x, 2 far away, 3 along 1.
+CZelData ThreeBeams() {
+  CZelData model;
+  BeamAt(model, {0, 0, 0}, {4, 0, 0});
+  BeamAt(model, {1, 90, 0}, {3, 90, 0});
+  BeamAt(model, {1, 0, 0}, {3, 0, 0});
+  return model;
+}
+
+TEST(OverlapLine, FollowsWhatComesIntoTheSearchSetBehindAQuestion) {
+  auto model = ThreeBeams();
+  auto tool = SearchOver(model, SetOf(SelElement, {1, 2}), kTolerance);
+  EXPECT_EQ(tool.FindCoinc(1, true), 0);
+  tool.AddToSearchSet(3);
+  EXPECT_EQ(tool.FindCoinc(1, true), 3);
+}
+
+TEST(OverlapLine, FollowsASearchSetThatIsSetBehindAQuestion) {
+  auto model = ThreeBeams();
+  auto tool = SearchOver(model, SetOf(SelElement, {1, 2}), kTolerance);
+  EXPECT_EQ(tool.FindCoinc(1, true), 0);
+  tool.SetSearchSet(SetOf(SelElement, {1, 3}), CReduceCoinc::kWholeSearch);
+  EXPECT_EQ(tool.FindCoinc(1, true), 3);
+}
+
+TEST(OverlapLine, FollowsTopologyThatChangesBehindAQuestion) {
+  auto model = ThreeBeams();
+  auto const tool = SearchOver(model, SetOf(SelElement, {1, 2}), kTolerance);
+  EXPECT_EQ(tool.FindCoinc(1, true), 0);
+  for (int const place : {0, 1}) model.SetElemTopo(2, place, model.Elem(3).Topo(place));
+  EXPECT_EQ(tool.FindCoinc(1, true), 2);
+
+  auto members = ThreeBeams();
+  Testing::MemberAt(members, MembType::Beam, L"1 2");
+  Testing::MemberAt(members, MembType::Beam, L"3 4");
+  Testing::MemberAt(members, MembType::Beam, L"5 6");
+  auto const search = SearchOver(members, SetOf(SelMember, {1, 2}), kTolerance);
+  EXPECT_EQ(search.FindCoinc(1, true), 0);
+  members.SetMember(2, Data::CMember(members.Member(3)));
+  EXPECT_EQ(search.FindCoinc(1, true), 2);
+}
+
 TEST(Overlap, ALineAndAPlateDoNot) {
   CZelData model;
   QuadAt(model, {0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0});
@@ -292,6 +378,12 @@ Points Box(double x0, double y0, double x1, double y1, double z = 0) {
   return {{x0, y0, z}, {x1, y0, z}, {x1, y1, z}, {x0, y1, z}};
 }
 
+Points Flat(std::vector<std::pair<double, double>> const& corners) {
+  Points points;
+  for (auto const& [x, y] : corners) points.push_back({x, y, 0});
+  return points;
+}
+
 Points Reversed(Points points) { return {points.rbegin(), points.rend()}; }
 
 /// The square from (1, 1) to (5, 5), turned about the line y = 1.
@@ -313,6 +405,14 @@ INSTANTIATE_TEST_SUITE_P(
         PlateRow{"sharing half an edge", Box(4, 2, 8, 6), false},
         PlateRow{"sharing a corner", Box(4, 4, 8, 8), false},
         PlateRow{"sharing two edges, smaller", Box(0, 0, 2, 2), true},
+        PlateRow{"sharing three corners and one edge", Flat({{0, 0}, {4, 0}, {8, 2}, {4, 4}}),
+                 true},
+        PlateRow{"sharing a corner and two edges", Flat({{0, 0}, {10, 0}, {0, 10}}), true},
+        PlateRow{"a corner near the end of an edge", Flat({{2, 0}, {4, 2}, {0, 3.995}}), false},
+        PlateRow{"a corner clear of the end of an edge", Flat({{2, 0}, {4, 2}, {0, 3.98}}), true},
+        PlateRow{"a corner near the start of an edge", Flat({{4, 2}, {2, 4}, {0, 0.005}}), false},
+        // Turned round, its first corner is 4 sin(0.5) = 0.035 off the plane, its third one on it.
+        PlateRow{"at an angle of half a degree, reversed", Reversed(Tilted(0.5)), true},
         PlateRow{"apart in its plane", Box(5, 5, 8, 8), false},
         PlateRow{"parallel, nearer than the tolerance", Box(3, 3, 6, 6, 0.009), false},
         PlateRow{"parallel, beyond the tolerance", Box(3, 3, 6, 6, 0.011), false},

@@ -22,9 +22,10 @@ using Json = nlohmann::ordered_json;
 constexpr Option kNodeList{"--list", "TEXT", ValueKind::Text, "all",
                            "the nodes to work on, as a list text"};
 constexpr Option kCoincidenceList{"--list", "TEXT", ValueKind::Text, "all",
-                                  "the entities to look at, as a list text"};
-constexpr Option kWith{"--with", "TEXT", ValueKind::Text, "all",
-                       "the nodes that they are compared with, beside themselves"};
+                                  "the entities to compare with one another, as a list text"};
+constexpr Option kWith{
+    "--with", "TEXT", ValueKind::Text, "all",
+    "the nodes that they are compared with, beside themselves; these may go, too"};
 constexpr Option kTolerance{"--tolerance",
                             "LENGTH",
                             ValueKind::Number,
@@ -37,6 +38,13 @@ constexpr Option kStage{"--stage",
                         "0",
                         "analysis stage whose constraints count, 0 for the model without stages",
                         0};
+constexpr Option kNodeStage{"--stage",
+                            "N",
+                            ValueKind::Integer,
+                            "0",
+                            "of nodes: analysis stage whose joints count, 0 for the model without "
+                            "stages",
+                            0};
 constexpr Option kOverlapKind{"--kind", "element|member", ValueKind::Choice, "element",
                               "what the list names"};
 
@@ -49,7 +57,7 @@ constexpr std::array kMergeOptions{
 constexpr std::array kJoinOptions{kNodeList, kWith, kTolerance, kStage};
 constexpr std::array kCoincidentOptions{
     Option{"--kind", "node|element|member", ValueKind::Choice, "node", "what the list names"},
-    kCoincidenceList, kTolerance, kStage};
+    kCoincidenceList, kTolerance, kNodeStage};
 constexpr std::array kOverlapOptions{kOverlapKind, kCoincidenceList, kTolerance};
 constexpr std::array kCrossingOptions{kOverlapKind, kCoincidenceList};
 constexpr std::array kUnconnectedOptions{kCoincidenceList};
@@ -59,6 +67,14 @@ double ToleranceOf(CZelData const& model, Arguments const& arguments, CommandRes
   double const tolerance = given > 0 ? given : model.Spec().GenTol();
   result.tolerances.push_back({"coincidence", tolerance, "m"});
   return tolerance;
+}
+
+/// The stage asked for. Throws Refusal when the model has none of that number.
+int CoincidenceStageOf(CZelData const& model, Arguments const& arguments) {
+  int const stage = arguments.Integer("--stage");
+  if (stage != 0 && !model.AnalStageExist(stage))
+    throw Refusal("stage " + std::to_string(stage) + " does not exist");
+  return stage;
 }
 
 CReduceCoinc SearchIn(CZelData& model, Util::CSet const& set, double tolerance, int stage) {
@@ -129,7 +145,8 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
   auto const items = SelectByOptions(model, SelNode, arguments, result);
   auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
   double const tolerance = ToleranceOf(model, arguments, result);
-  auto tool = SearchIn(model, Union(items, others), tolerance, arguments.Integer("--stage"));
+  auto tool =
+      SearchIn(model, Union(items, others), tolerance, CoincidenceStageOf(model, arguments));
   tool.SetOption(OptionOf(arguments.Text("--properties")));
   std::vector<std::pair<int, int>> pairs;
   result.did = tool.Do(items, pairs);
@@ -147,7 +164,7 @@ void JoinNodes(CZelData& model, Arguments const& arguments, CommandResult& resul
   auto const items = SelectByOptions(model, SelNode, arguments, result);
   auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
   auto tool = SearchIn(model, Union(items, others), ToleranceOf(model, arguments, result),
-                       arguments.Integer("--stage"));
+                       CoincidenceStageOf(model, arguments));
   tool.SetOption(CReduceCoinc::OptionJoint);
   int const first = model.HighestJoint() + 1;
   std::vector<std::pair<int, int>> pairs;
@@ -155,11 +172,12 @@ void JoinNodes(CZelData& model, Arguments const& arguments, CommandResult& resul
   std::set<int> joined;
   for (int n = first; n <= model.HighestJoint(); ++n)
     joined.insert({model.Joint(n).PrimaryNode(), model.Joint(n).ConstrainedNode()});
-  for (int const n : items)
-    if (int const other = joined.contains(n) ? 0 : tool.FindCoinc(n, false); other != 0)
-      result.undone.push_back({"Node", n,
-                               "it or node " + std::to_string(other) +
-                                   ", which coincides with it, is in a constraint"});
+  auto left = items;
+  for (int const n : joined) left.RemoveFrom(n);
+  for (auto const& [n, other] : tool.FindAllCoinc(left))
+    result.undone.push_back(
+        {"Node", n,
+         "it or node " + std::to_string(other) + ", which coincides with it, is in a constraint"});
 }
 
 // Finding.
@@ -195,9 +213,11 @@ FoundPairs PairsOf(Util::CSet const& set, Find&& find) {
 void FindCoincident(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const& kind = arguments.Text("--kind");
   auto const set = SelectByOptions(model, KindOf(kind), arguments, result);
-  auto const tool =
-      SearchIn(model, set, ToleranceOf(model, arguments, result), arguments.Integer("--stage"));
-  ReportPairs(kind, PairsOf(set, [&](int n) { return tool.FindCoinc(n, false); }), "and", result);
+  int const stage = CoincidenceStageOf(model, arguments);
+  auto const tool = SearchIn(model, set, ToleranceOf(model, arguments, result), stage);
+  FoundPairs pairs;
+  for (auto const& [n, other] : tool.FindAllCoinc(set)) pairs.insert(std::minmax(n, other));
+  ReportPairs(kind, pairs, "and", result);
 }
 
 void FindOverlaps(CZelData& model, Arguments const& arguments, CommandResult& result) {
@@ -251,7 +271,9 @@ constexpr std::array kCoincidenceCommands{
             &JoinNodes},
     Command{"find-coincident", "find nodes at one place, elements and members on the same nodes",
             kCoincidentOptions, CommandKind::Reads, &FindCoincident},
-    Command{"find-overlaps", "find lines along one another and plates over one another",
+    Command{"find-overlaps",
+            "find lines along one another and plates over one another; solids "
+            "count as plates on their first nodes",
             kOverlapOptions, CommandKind::Reads, &FindOverlaps},
     Command{"find-crossing", "find lines that cross between their ends", kCrossingOptions,
             CommandKind::Reads, &FindCrossing},

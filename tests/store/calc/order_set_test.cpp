@@ -191,6 +191,24 @@ TEST(COrderSet, AddedToAnUnsortedListItComesLast) {
   order.CreateList(model);
   order.AddToSet(3, model);
   EXPECT_EQ(Refs(order), (std::vector{1, 2, 3}));
+  model.SetNodeCoor(1, {7, 0, 0});
+  order.AddToSet(1, model);
+  order.AddToSet(2, model);
+  EXPECT_EQ(Refs(order), (std::vector{2, 3, 1}));
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(order.GetIndexFromRef(order.Ref(i)), i);
+  EXPECT_EQ(order.PointItem(2), 7);
+}
+
+TEST(COrderSet, WhatMovesAndComesBackBetweenAdditionsIsWhereItWas) {
+  CZelData model;
+  for (double const x : {1.0, 2.0}) NodeAt(model, x, 0, 0);
+  auto order = Listed(model, AllNodes(model), {1, 0, 0});
+  for (double const x : {5.0, 1.0}) {
+    model.SetNodeCoor(1, {x, 0, 0});
+    order.AddToSet(1, model);
+  }
+  EXPECT_EQ(Refs(order), (std::vector{1, 2}));
+  EXPECT_EQ(order.PointItem(0), 1);
 }
 
 TEST(COrderSet, FirstAboveIsStrictAndFirstFromIsNot) {
@@ -341,7 +359,16 @@ TEST(COrderSetOracle, AListThatIsAddedToIsTheListMadeAnew) {
         ASSERT_GE(order.GetIndexFromRef(n), 0);
       }
     }
-    auto const whole = Listed(model, all, {0.3, 0.4, 0.5});
+    CZelData moved(model);
+    for (int i = 0; i < 20; ++i) {
+      int const n = order.Ref(random.Int(0, order.NumItems() - 1));
+      moved.SetNodeCoor(n, model.NodeCoor(random.Int(0, 1) == 0 ? n : order.Ref(0)));
+      order.AddToSet(n, moved);
+      if (random.Percent(10)) {
+        ASSERT_EQ(order.NumItems(), all.NumItem());
+      }
+    }
+    auto const whole = Listed(moved, all, {0.3, 0.4, 0.5});
     ASSERT_EQ(Refs(order), Refs(whole));
     for (int i = 0; i < whole.NumItems(); ++i) {
       ASSERT_EQ(order.PointItem(i), whole.PointItem(i));

@@ -1,5 +1,8 @@
 #include "workbench/commands/coincidence.h"
 
+#include <algorithm>
+#include <filesystem>
+
 #include "tests/workbench/run.h"
 
 namespace Tarvex::CoincidenceTest {
@@ -167,15 +170,48 @@ TEST_F(CoincidenceCommand, FindingsAreReadableAsText) {
 
 TEST_F(CoincidenceCommand, BadValuesAreRefusedWithTwo) {
   auto const model = Write("in.json", LooseModel());
-  for (std::vector<std::string> words :
-       {std::vector<std::string>{"merge-nodes", "--tolerance", "-1"},
-        {"merge-nodes", "--properties", "most"},
-        {"merge-nodes", "--with", "1 to"},
-        {"join-nodes", "--stage", "-1"}}) {
-    words.insert(words.begin() + 1, {model, "--dry-run"});
-    EXPECT_EQ(RunTarvex(words).exit, 2) << words.at(3);
+  struct Row {
+    std::vector<std::string> words;
+    std::string line;
+  };
+  for (auto row :
+       {Row{{"merge-nodes", "--tolerance", "-1"}, "--tolerance: '-1' is not at least 0\n"},
+        {{"merge-nodes", "--properties", "most"},
+         "--properties: 'most' is not one of greater|lesser|kept\n"},
+        {{"merge-nodes", "--with", "1 to"}, "--with: character 3: a range without its end\n"},
+        {{"join-nodes", "--stage", "-1"}, "--stage: '-1' is not at least 0\n"},
+        {{"find-overlaps", "--kind", "node"}, "--kind: 'node' is not one of element|member\n"}}) {
+    row.words.insert(row.words.begin() + 1, model);
+    if (!row.words.front().starts_with("find")) row.words.emplace_back("--dry-run");
+    auto const result = RunTarvex(row.words);
+    EXPECT_EQ(result.exit, 2) << row.line;
+    EXPECT_TRUE(result.err.starts_with("tarvex: ") && result.err.ends_with(row.line)) << result.err;
+    EXPECT_EQ(std::ranges::count(result.err, '\n'), 1);
+    EXPECT_EQ(result.out, "");
   }
-  EXPECT_EQ(RunTarvex({"find-overlaps", model, "--kind", "node"}).exit, 2);
+}
+
+TEST_F(CoincidenceCommand, AStageThatDoesNotExistIsRefusedWithThree) {
+  auto const model = Write("in.json", LooseModel());
+  for (std::vector<std::string> words :
+       {std::vector<std::string>{"merge-nodes"}, {"join-nodes"}, {"find-coincident"}}) {
+    bool const changes = words.front() != "find-coincident";
+    words.insert(words.end(), {model, "--stage", "7"});
+    if (changes) words.insert(words.end(), {"-o", Path("staged.json")});
+    auto const result = RunTarvex(words);
+    EXPECT_EQ(result.exit, 3) << words.front();
+    EXPECT_EQ(result.err, "tarvex: stage 7 does not exist\n");
+    EXPECT_FALSE(std::filesystem::exists(Path("staged.json")));
+  }
+}
+
+TEST_F(CoincidenceCommand, AStageThatExistsIsTaken) {
+  auto text = LooseModel();
+  text.replace(text.find("\"NodeLoad\""), 0, "\"AnalStage\": [{\"n\": 7}],\n");
+  auto const model = Write("in.json", text);
+  for (auto const* command : {"merge-nodes", "join-nodes"})
+    EXPECT_EQ(RunTarvex({command, model, "--stage", "7", "--dry-run"}).exit, 0) << command;
+  EXPECT_EQ(RunTarvex({"find-coincident", model, "--stage", "7"}).exit, 1);
 }
 
 }  // namespace
