@@ -1,6 +1,8 @@
 // Which materials and properties a model uses.
 #include <array>
 #include <limits>
+#include <set>
+#include <utility>
 
 #include "renumber/property_tables.h"
 #include "store/model/registry.h"
@@ -66,10 +68,12 @@ class UseMarker {
     if (property > 0) Mark(PropertyModule(family), property);
   }
 
-  /// Marks a property, the first time with what it is made of.
+  /// Marks a property with what it is made of. A load panel marks the number alone, so that a mark
+  /// does not tell that the materials have theirs.
   void Property(Id module, int n) {
-    if (module == CModule::None || n == 0 || m_maps[module].contains(n)) return;
+    if (module == CModule::None || n == 0) return;
     Mark(module, n);
+    if (!m_made.emplace(module, n).second) return;
     if (module == CModule::Section && m_model.SectionExist(n)) {
       auto const& section = m_model.Section(n);
       for (int i = 0; i < section.NumComponent(); ++i) Material(section.Component(i));
@@ -87,6 +91,7 @@ class UseMarker {
   CZelData const& m_model;
   int m_stage;
   Maps& m_maps;
+  std::set<std::pair<Id, int>> m_made;  // properties whose materials are marked
 };
 
 }  // namespace

@@ -75,9 +75,12 @@ CEntList ListMapper::MapUntyped(CEntList const& list, Id module) const {
 CEntList ListMapper::MapExpanded(CEntList const& list) const {
   auto const kind = list.TypeOf();
   NamedNumbers resolver(m_before, kind);
-  auto const numbers = Data::ExpandList(Data::ListAccess::Text(list).Tokens(), kind, resolver);
-  auto const module = EntModId(kind);
-  auto const* const scheme = m_schemes.Find(module);
+  return MapNumbers(list, Data::ExpandList(Data::ListAccess::Text(list).Tokens(), kind, resolver));
+}
+
+CEntList ListMapper::MapNumbers(CEntList const& list, Intervals const& numbers) const {
+  auto const kind = list.TypeOf();
+  auto const* const scheme = m_schemes.Find(EntModId(kind));
   Util::CSet mapped(kind);
   for (auto const& run : numbers.Runs())
     for (int n = std::max(run.first, 1); n <= run.last; ++n)
@@ -92,8 +95,9 @@ CEntList ListMapper::MapText(CEntList const& list, Id propertyModule) {
   auto const converted = Preconvert(list);
   if (converted.NumWord() == 0) return converted;
   auto result = EmptyLike(list);
-  result.SetString(ListTextMapper(*this, converted, propertyModule).Run());
-  return result;
+  if (result.SetString(ListTextMapper(*this, converted, propertyModule).Run())) return result;
+  // Without the numbers that went the words are no list; what it selected is not to be lost.
+  return MapNumbers(list, Util::Item(list, m_before, -1, true).Numbers());
 }
 
 CString ListMapper::MapWord(CEntList const& list, int token, Id& module, int& string,

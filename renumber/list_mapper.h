@@ -36,6 +36,8 @@ class ListMapper {
   bool StaysAsItIs(Data::CEntList const& list) const;
   Data::CEntList MapUntyped(Data::CEntList const& list, Id module) const;
   Data::CEntList MapExpanded(Data::CEntList const& list) const;
+  /// The new numbers of some, in a list that is otherwise a given one.
+  Data::CEntList MapNumbers(Data::CEntList const& list, Intervals const& numbers) const;
   Data::CEntList MapText(Data::CEntList const& list, Id propertyModule);
   /// Appends a token with its new number. @return false, and nothing appended, for one that goes.
   bool AppendMapped(std::wstring& text, Data::CEntList const& list, int token, Id& module,

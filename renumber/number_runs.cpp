@@ -49,22 +49,18 @@ bool NumberRuns::AllExist(NumberRange const& range) const {
 
 bool NumberRuns::MoveAlike(NumberRange const& range) const {
   if (m_scheme == nullptr || range.last - range.first < range.step) return true;
-  auto const* run = RunOf(range.first);
-  if (run == nullptr) return false;
-  int const shift = run->shift;
   auto const* const end = m_runs.data() + m_runs.size();
-  for (int k = range.first; k <= range.last;) {
+  auto const* run = std::lower_bound(m_runs.data(), end, range.first,
+                                     [](Run const& r, int n) { return r.last < n; });
+  bool const gone = run == end || run->first > range.first;
+  // A number that goes becomes 0, which is a step down by itself.
+  int const shift = gone ? -range.first : run->shift;
+  for (int k = gone ? range.first + range.step : range.first; k <= range.last;) {
     while (run != end && run->last < k) ++run;
     if (run == end || run->first > k || run->shift != shift) return false;
     k += (std::min(run->last, range.last) - k) / range.step * range.step + range.step;
   }
   return true;
-}
-
-NumberRuns::Run const* NumberRuns::RunOf(int number) const {
-  auto const at = std::lower_bound(m_runs.begin(), m_runs.end(), number,
-                                   [](Run const& run, int n) { return run.last < n; });
-  return at != m_runs.end() && at->first <= number ? &*at : nullptr;
 }
 
 }  // namespace Tarvex

@@ -34,7 +34,7 @@ class NumberRuns {
   std::optional<int> PreviousKept(int number) const;
   /// Whether all numbers of a range exist.
   bool AllExist(NumberRange const& range) const;
-  /// Whether all numbers of a range move as its first one does.
+  /// Whether all numbers of a range move as its first one does; one that goes moves to 0.
   bool MoveAlike(NumberRange const& range) const;
   /// Calls visit for each existing number of a range.
   template <class Visit>
@@ -55,7 +55,6 @@ class NumberRuns {
     int last;
     int shift;
   };
-  Run const* RunOf(int number) const;
 
   Intervals m_existing;
   NumberScheme const* m_scheme;

@@ -73,6 +73,15 @@ TEST(MapCaseDesc, LeavesLettersOfTablesWithoutScheme) {
   EXPECT_EQ(renumber.MapCaseDesc(L"1.2L1+1.5A2", cases), L"1.2L1+1.5A6");
 }
 
+TEST(MapCaseDesc, SplitsAtEachDelimiter) {
+  // A letter without a number before the delimiter would hide the case behind it.
+  Cases const cases{{L(1), 3}};
+  for (auto const* between : {L" ", L",", L"(", L")", L"P", L":"}) {
+    auto const text = std::wstring(L"A") + between;
+    EXPECT_EQ(Mapped((text + L"L1").c_str(), cases), text + L"L3");
+  }
+}
+
 TEST(MapCaseDesc, OfNothingIsNothing) { EXPECT_EQ(Mapped(L"", {}), L""); }
 
 /// A static task with texts, a response task, an envelope, a case, a combination, a description.

@@ -10,6 +10,7 @@
 #include "store/record/member.h"
 #include "store/record/node.h"
 #include "store/record/other_props.h"
+#include "store/record/prop_2d.h"
 #include "store/record/prop_3d.h"
 #include "store/record/section.h"
 #include "store/record/spring_prop.h"
@@ -208,6 +209,97 @@ TEST(IndexUsed, MarksWhatStandsInThePlaceOfAPropertyInAStage) {
   EXPECT_TRUE(index.IsMatSteelUsed(3));
   EXPECT_FALSE(index.IsSectionUsed(10));
   EXPECT_FALSE(index.IsSectionUsed(11));
+}
+
+/// A model with a load panel 8 of plate 5, whose materials are 3 and concrete 4.
+CZelData ModelWithPanel() {
+  CZelData model;
+  auto panel = Testing::Panel({1, 2, 3});
+  panel.SetProperty(5);
+  model.SetLoadPanel(8, panel);
+  Data::CProp2D plate;
+  plate.SetMaterialAnalysis(3);
+  plate.SetMaterialDesign({MatType::Concrete, 4});
+  model.SetProp2D(5, plate);
+  return model;
+}
+
+TEST(IndexUsed, MarksNoMaterialsOfWhatLoadPanelsAloneName) {
+  auto const model = ModelWithPanel();
+  CIndexProp index(model);
+  index.IndexUsed();
+  EXPECT_TRUE(index.IsProp2DUsed(5));
+  EXPECT_FALSE(index.IsMatAnalUsed(3));
+  EXPECT_FALSE(index.IsMatConcreteUsed(4));
+}
+
+TEST(IndexUsed, MarksMaterialsOfAPlateThatALoadPanelAndAMemberName) {
+  auto model = ModelWithPanel();
+  Data::CMember member(1, 5);
+  ASSERT_TRUE(member.SetTopo(L"1 2 3"));
+  model.SetMember(1, member);
+  CIndexProp index(model);
+  index.IndexUsed();
+  EXPECT_TRUE(index.IsMatAnalUsed(3));
+  EXPECT_TRUE(index.IsMatConcreteUsed(4));
+}
+
+TEST(IndexUsed, MarksMaterialsOfAPlateThatALoadPanelNamesAndAStageUses) {
+  auto model = ModelWithPanel();
+  auto element = Testing::Element(ElementType::Quad4, {1, 2});
+  element.SetProperty(7);
+  model.SetElem(1, element);
+  model.SetAnalStage(1, {L"", {SelElement, L"1"}});
+  model.SetAnalStageProp(1, {1, PropertyType::Plate, 7, 5});
+  CIndexProp index(model);
+  index.IndexUsed();
+  EXPECT_TRUE(index.IsMatAnalUsed(3));
+  EXPECT_TRUE(index.IsMatConcreteUsed(4));
+}
+
+TEST(IndexUsed, MarksWhatStandsInThePlaceOfPropertiesOfNodesInAStage) {
+  auto model = ModelWith(ElementType::Beam, 7);
+  Data::CNode node({0, 0, 0}, 0, Vbool6());
+  node.SetSpringProperty(4);
+  node.SetMassProperty(5);
+  node.SetDamperProperty(6);
+  model.SetNode(1, node);
+  model.SetAnalStage(1, {L"", {SelElement, L"all"}});
+  model.SetAnalStageProp(1, {1, PropertyType::Spring, 4, 14});
+  model.SetAnalStageProp(2, {1, PropertyType::Mass, 5, 15});
+  model.SetAnalStageProp(3, {1, PropertyType::Damper, 6, 16});
+  CIndexProp index(model);
+  index.IndexUsed();
+  for (int const n : {4, 14}) EXPECT_TRUE(index.IsSpringUsed(n)) << n;
+  for (int const n : {5, 15}) EXPECT_TRUE(index.IsMassUsed(n)) << n;
+  for (int const n : {6, 16}) EXPECT_TRUE(index.IsDamperUsed(n)) << n;
+}
+
+TEST(IndexUsed, MarksWhatStandsInThePlaceOfPropertiesOfMembersInAStage) {
+  CZelData model;
+  Data::CMember member(1, 7);
+  ASSERT_TRUE(member.SetTopo(L"1 2"));
+  model.SetMember(1, member);
+  model.SetAnalStage(1, {L"", {SelElement, L"all"}});
+  model.SetAnalStageProp(1, {1, PropertyType::Section, 7, 9});
+  CIndexProp index(model);
+  index.IndexUsed();
+  EXPECT_TRUE(index.IsSectionUsed(7));
+  EXPECT_TRUE(index.IsSectionUsed(9));
+}
+
+TEST(IndexStage, LeavesOutLoadPanelsOfOtherStages) {
+  auto model = ModelWith(ElementType::Beam, 7);
+  for (int const n : {2, 3}) {
+    auto panel = Testing::Panel({1, 2, 3});
+    panel.SetProperty(n + 2);
+    model.SetLoadPanel(n, panel);
+  }
+  model.SetAnalStage(1, {L"", {SelElement, L"1 3"}});
+  CIndexProp index(model);
+  EXPECT_TRUE(index.IndexStage(1));
+  EXPECT_FALSE(index.IsProp2DUsed(4));
+  EXPECT_TRUE(index.IsProp2DUsed(5));
 }
 
 TEST(IndexStage, MarksWhatOneStageUses) {

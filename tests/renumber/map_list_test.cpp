@@ -104,6 +104,10 @@ TEST(MapList, KeepsARangeThatLosesItsEnds) {
   EXPECT_EQ(Mapped(L"1 to 10", Without({1, 10})), L"2 to 9");
 }
 
+TEST(MapList, KeepsARangeThatLosesSeveralAtEachEnd) {
+  EXPECT_EQ(Mapped(L"1 to 10", Without({1, 2, 3, 8, 9, 10})), L"4 to 7");
+}
+
 TEST(MapList, KeepsARangeThatMovesAsAWhole) {
   EXPECT_EQ(Mapped(L"3 to 8", Without({}, 100)), L"103 to 108");
 }
@@ -115,6 +119,20 @@ TEST(MapList, KeepsASteppedRangeThatMovesAsAWhole) {
 TEST(MapList, WritesASteppedRangeOutThatLosesOne) {
   EXPECT_EQ(Mapped(L"3 to 9 step 2", Without({7}, 100)), L"103 105 109");
   EXPECT_EQ(Mapped(L"3 to 9 step 2", Without({3}, 100)), L"105 107 109");
+}
+
+TEST(MapList, KeepsASteppedRangeWhoseBeginGoesWhereTheOthersMoveDownByIt) {
+  Scheme closed;  // 1 to 3 go, and the others close up
+  for (int n = 4; n <= 20; ++n) closed[n] = n - 3;
+  // 3 becomes 0, 5 becomes 2, 7 becomes 4, 9 becomes 6: each 3 less
+  EXPECT_EQ(Mapped(L"3 to 9 step 2", closed), L"2 to 6 step 2");
+  // 2 becomes 0, which is 2 less, and 4 becomes 1, which is 3 less
+  EXPECT_EQ(Mapped(L"2 to 8 step 2", closed), L"1 3 5");
+}
+
+TEST(MapList, TakesTheEndOfASteppedRangeThatGoesToANumberOfTheRange) {
+  // The range is 1, 4, 7. From 8 down by (8 - 1) mod 3 = 1 is 7.
+  EXPECT_EQ(Mapped(L"1 to 9 step 3", Without({9})), L"1 to 7 step 3");
 }
 
 TEST(MapList, KeepsASteppedRangeWhoseNumbersBetweenGo) {
@@ -135,6 +153,12 @@ TEST(MapList, KeepsARangeOutOfOrder) { EXPECT_EQ(Mapped(L"9 to 5", Without({}, 1
 TEST(MapList, LeavesTheEndOfARangeOutOfOrderThatLosesItsBeginToWhatStandsBefore) {
   // The begin is looked for below the end only.
   EXPECT_EQ(Mapped(L"1 2 9 to 5", Without({9})), L"1 2 to 5");
+}
+
+TEST(MapList, KeepsWhatStaysOfAListWhoseWordsReadAsNoneWithoutTheOthers) {
+  // The range holds 5 alone; without its numbers "10 7 step 2" would be left.
+  EXPECT_EQ(Mapped(L"10 5 to 6 step 2", Without({5, 6})), L"10");
+  EXPECT_EQ(Mapped(L"10 11 12 5 to 6 step 2", Without({5, 6}, 100)), L"110 to 112");
 }
 
 TEST(MapList, ThatLosesAllItemsBecomesNone) {

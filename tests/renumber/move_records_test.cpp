@@ -189,6 +189,17 @@ TEST(MoveRecords, ErasesStagesInThePlaceOfDesignTasksAndLeavesOldOnes) {
   EXPECT_EQ(Numbers(model.AnalStage()), std::vector<int>{3});
 }
 
+TEST(MoveRecords, ErasesStagesThatAStepBeforeHasMoved) {
+  CZelData model;
+  model.SetAnalStage(8, Data::CAnalStage());
+  model.SetDesignTask(1, CDesignTask());
+  CRenumber renumber(&model);
+  renumber.Index(CModule::AnalStage);  // 8 becomes 1, and 1 is cleared with the design tasks
+  renumber.Index(CModule::DesignTask);
+  EXPECT_TRUE(renumber.Go(false));
+  EXPECT_EQ(model.HighestAnalStage(), 0);
+}
+
 TEST(MoveRecords, LeavesOldCombinations) {
   CZelData model;
   for (int const n : {1, 2}) model.SetCombinationCase(n, MadeFor<Data::CCombinationCase>(n));

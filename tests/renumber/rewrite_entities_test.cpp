@@ -144,6 +144,25 @@ TEST(RewriteElement, WithoutATableOfPropertiesEndsTheRunWhenPropertiesMove) {
   }
 }
 
+TEST(RewriteElement, WithoutATableOfPropertiesLeavesTheStepsBehindItUndone) {
+  CZelData model;
+  model.SetElem(2, Data::CElement(1, ElementType::Damper, 4));
+  Data::LoadPanel panel;
+  panel.SetProperty(4);
+  model.SetLoadPanel(4, panel);
+  model.SetList(1, {L"", SelElement, L"PA4"});
+  model.SetNode(1, Data::CNode({0, 0, 0}, 3, Vbool6()));
+  model.SetGridPlane(1, {L"", 3, 0, false});
+  CRenumber renumber(&model);
+  renumber.Index(CModule::Prop2D, {{4, 9}});
+  renumber.Index(CModule::Axis, {{3, 5}});
+  EXPECT_FALSE(renumber.Go(false));
+  EXPECT_EQ(model.GridPlane(1).Axis(), 5);  // before elements
+  EXPECT_EQ(model.Node(1).Axis(), 5);
+  EXPECT_EQ(model.LoadPanel(4).Property(), 4);  // behind them
+  EXPECT_EQ(model.List(1).String(), L"PA4");
+}
+
 TEST(RewriteElement, CountsModules50To65And75AsProperties) {
   for (int const module : {50, 52, 53, 54, 55, 56, 57, 58, 59, 62, 63, 64, 65, 75, 38, 80}) {
     CZelData model;

@@ -322,6 +322,44 @@ TEST(SchemeModel, IsTakenAnewWithSetDataWithoutSchemes) {
   EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{9, 1}}));
 }
 
+/// A renumbering in which 1 and 9 were brought to 8, one of them by IndexItem.
+OpenRenumber Merged(CZelData& model) {
+  OpenRenumber renumber(&model);
+  renumber.Index(CModule::Node, {{1, 6}, {9, 8}});
+  renumber.IndexItem(CModule::Node, 6, 8);
+  return renumber;
+}
+
+TEST(SchemeList, OfAKindKeepsWhatMergesOfThatTableFound) {
+  CZelData model;
+  Testing::NodesAt(model, {1, 4});
+  auto renumber = Merged(model);
+  // The groups that go are those of the given table, here of none.
+  renumber.Index(Data::CEntList(SelNode, L""), CModule::None);
+  renumber.IndexItem(CModule::Node, 8, 3);
+  EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 3}, {4, 4}, {9, 3}}));
+}
+
+TEST(SchemeList, ForgetsWhatMergesOfTheGivenTableFound) {
+  CZelData model;
+  Testing::NodesAt(model, {1, 4});
+  auto renumber = Merged(model);
+  renumber.Index(Data::CEntList(SelNode, L""), CModule::Node);
+  renumber.IndexItem(CModule::Node, 8, 3);
+  EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 1}, {4, 4}}));
+}
+
+TEST(SchemeModel, IsTakenAnewWithSetDataAndKeepsWhatMergesFound) {
+  CZelData first;
+  auto renumber = Merged(first);
+  CZelData second;
+  Testing::NodesAt(second, {1, 4});
+  renumber.SetData(&second);
+  renumber.Index(CModule::Node);  // 1 stays, 4 becomes 2
+  renumber.IndexItem(CModule::Node, 8, 3);
+  EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 3}, {4, 2}, {9, 3}}));
+}
+
 TEST(SchemeModel, IsNeededToBuildOne) {
   CRenumber renumber;
   EXPECT_THROW(renumber.Index(CModule::Node), std::logic_error);
@@ -355,6 +393,11 @@ TEST(SchemeSnapshot, AnswersForNumbersAsTheyWereBeforeTheRun) {
   ASSERT_TRUE(renumber.Go(false));
   EXPECT_EQ(model.HighestNode(), 2);
   EXPECT_EQ(renumber.HighestItem(SelNode), 4);
+  OpenRenumber const copy(renumber);
+  OpenRenumber assigned;
+  assigned = renumber;
+  EXPECT_EQ(copy.HighestItem(SelNode), 4);
+  EXPECT_EQ(assigned.HighestItem(SelNode), 4);
   EXPECT_TRUE(renumber.ItemExist(SelNode, 4));
   EXPECT_FALSE(renumber.ItemExist(SelNode, 2));
   renumber.Index(CModule::Node);

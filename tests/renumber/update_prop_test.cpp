@@ -203,6 +203,58 @@ TEST(TidyRef, GoesByTheTableOfEachFamily) {
   }
 }
 
+/// A model in which a record 40 closes up to another number in each table of properties: 1 in that
+/// of sections, then springs, masses, plates, links, cables, solids and dampers.
+CZelData ModelWithHolesOfItsOwnInEachTable() {
+  CZelData model;
+  int const modules[] = {50, 52, 53, 54, 56, 58, 55, 57};
+  for (int number = 1; number <= 8; ++number)
+    ForTidied([&](auto const& row) {
+      using Record = typename std::remove_cvref_t<decltype(row)>::Record;
+      if (row.module != modules[number - 1]) return;
+      for (int n = 1; n < number; ++n) (model.*row.set)(n, Record(), SidMode::Keep);
+      (model.*row.set)(40, Record(), SidMode::Keep);
+    });
+  return model;
+}
+
+TEST(TidyRef, GoesByTheTableOfMembersPanelsAndStages) {
+  auto model = ModelWithHolesOfItsOwnInEachTable();
+  struct MemberRow {
+    wchar_t const* topology;
+    ElementType type;
+    int now;
+  };
+  MemberRow const members[] = {{L"1 2", ElementType::Beam, 1},
+                               {L"1 2", ElementType::Cable, 6},
+                               {L"1 2", ElementType::Damper, 8},
+                               {L"1 2 3", ElementType::Beam, 4},
+                               {L"1 2 3 ; 1 2 4", ElementType::Beam, 7}};
+  for (int n = 1; auto const& row : members) {
+    Data::CMember member(1, 40);
+    ASSERT_TRUE(member.SetTopo(CString(row.topology)));
+    member.SetAnalysisType1D(row.type);
+    model.SetMember(n++, member);
+  }
+  Data::LoadPanel panel;
+  panel.SetProperty(40);
+  model.SetLoadPanel(1, panel);
+  struct StageRow {
+    PropertyType type;
+    int now;
+  };
+  StageRow const stages[] = {{PropertyType::Section, 1}, {PropertyType::Spring, 2},
+                             {PropertyType::Mass, 3},    {PropertyType::Plate, 4},
+                             {PropertyType::Link, 5},    {PropertyType::Cable, 6},
+                             {PropertyType::Solid, 7},   {PropertyType::Damper, 8}};
+  for (int n = 1; auto const& row : stages) model.SetAnalStageProp(n++, {1, row.type, 40, 40});
+  Tidy(model);
+  for (int n = 1; auto const& row : members) EXPECT_EQ(model.Member(n++).Property(), row.now);
+  EXPECT_EQ(model.LoadPanel(1).Property(), 4);
+  for (int n = 1; auto const& row : stages)
+    EXPECT_EQ(model.AnalStageProp(n++), Data::CAnalStageProp(1, row.type, row.now, row.now));
+}
+
 TEST(TidyRef, LeavesTheNumbersThatNodesName) {
   auto model = ModelWithHoles();
   Data::CNode node;

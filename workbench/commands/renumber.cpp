@@ -3,15 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <set>
 
 #include "store/model/list_expansion.h"
 #include "store/model/registry.h"
 #include "store/record/case_refs.h"
 #include "store/select/numbers.h"
-#include "tarvex/tidy.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/number_map.h"
+#include "workbench/commands/property_use.h"
 #include "workbench/commands/renumber_run.h"
 #include "workbench/commands/selection.h"
 #include "workbench/file/references.h"
@@ -130,6 +131,9 @@ std::map<int, int> BuildScheme(CZelData const& model, Id module, Arguments const
     return SchemeBy(model, module, [&](CRenumber& renumber) { renumber.Index(module); });
   if (auto const& text = arguments.Text("--direction"); !text.empty()) {
     auto const v = NumbersOf<double>("--direction", text, 3);
+    bool const finite = std::all_of(v.begin(), v.end(), [](double x) { return std::isfinite(x); });
+    if (!finite || v == std::vector<double>{0, 0, 0})
+      throw UsageError("--direction: '" + text + "' is no direction");
     auto const kind = KindOfTable(module);
     return SchemeBy(model, module, [&](CRenumber& renumber) {
       renumber.Index(kind, Vec3<double>{v[0], v[1], v[2]});
@@ -185,8 +189,11 @@ Records RecordsToDelete(CZelData const& model, Arguments const& arguments, Comma
   Records gone;
   auto const& text = arguments.Text("--list");
   if (text.empty()) throw UsageError("--list: which records?");
+  std::map<Id, std::vector<int>> inUse;
   auto const take = [&](Id module, int n) {
-    auto const numbers = NumbersInUse(model, module);
+    auto const [at, isNew] = inUse.try_emplace(module);
+    auto& numbers = at->second;
+    if (isNew) numbers = NumbersInUse(model, module);
     if (std::binary_search(numbers.begin(), numbers.end(), n)) gone[module].insert(n);
   };
   if (auto const& stem = arguments.Text("--table"); !stem.empty()) {
@@ -243,31 +250,6 @@ void AddUsers(CZelData const& model, Records& gone) {
                 (number == 0 ? "" : " " + std::to_string(number)) + " needs it");
 }
 
-/// Whether a material or property is in use in the model or one of its stages.
-bool IsInUse(CIndexProp const& index, Id module, int n) {
-  using Query = bool (CIndexProp::*)(int) const;
-  static std::map<Id, Query> const kQueries{
-      {CModule::MatAnal, &CIndexProp::IsMatAnalUsed},
-      {CModule::MatSteel, &CIndexProp::IsMatSteelUsed},
-      {CModule::MatConcrete, &CIndexProp::IsMatConcreteUsed},
-      {CModule::MatAluminium, &CIndexProp::IsMatAluminiumUsed},
-      {CModule::MatGlass, &CIndexProp::IsMatGlassUsed},
-      {CModule::MatFrp, &CIndexProp::IsMatFrpUsed},
-      {CModule::MatTimber, &CIndexProp::IsMatTimberUsed},
-      {CModule::MatFabric, &CIndexProp::IsMatFabricUsed},
-      {CModule::MatRebar, &CIndexProp::IsMatRebarUsed},
-      {CModule::Section, &CIndexProp::IsSectionUsed},
-      {CModule::Prop2D, &CIndexProp::IsProp2DUsed},
-      {CModule::SpringProp, &CIndexProp::IsSpringUsed},
-      {CModule::MassProp, &CIndexProp::IsMassUsed},
-      {CModule::LinkProp, &CIndexProp::IsLinkUsed},
-      {CModule::CableProp, &CIndexProp::IsCableUsed},
-      {CModule::SpacerProp, &CIndexProp::IsSpacerUsed},
-      {CModule::Prop3D, &CIndexProp::IsProp3DUsed}};
-  auto const found = kQueries.find(module);
-  return found != kQueries.end() && (index.*found->second)(n);
-}
-
 /// Refuses to delete what a record that stays can't do without.
 void RequireUnused(CZelData const& model, Records const& gone) {
   auto const modules = ModulesByStem();
@@ -279,7 +261,7 @@ void RequireUnused(CZelData const& model, Records const& gone) {
       return;
     auto const user = modules.find(site.table);
     if (user != modules.end() && IsGone(gone, user->second, site.number)) return;
-    if (IsEssential(site) || IsInUse(index, target->second, site.value))
+    if (IsEssential(site) || IsUsed(index, target->second, site.value))
       RefuseUse(site.target, site.value, site.table, site.number);
   });
 }
@@ -333,9 +315,6 @@ void Delete(CZelData& model, Arguments const& arguments, CommandResult& result) 
   if (gone.empty()) return;
   CZelData const before(model);
   RunRenumbering(model, schemes, false, result);
-  // A renumbering leaves combinations whose number is not taken over.
-  if (auto const found = gone.find(CModule::CombinationCase); found != gone.end())
-    for (int const n : found->second) model.BlankCombinationCase(n, 1);
   RequireNoneDangling(before, model);
 }
 

@@ -1,40 +1,22 @@
 // What a renumbering did beside moving records.
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <set>
+#include <string>
+#include <tuple>
 
 #include "store/model/list_expansion.h"
 #include "store/model/registry.h"
-#include "workbench/commands/renumber_run.h"
-#include "workbench/file/references.h"
+#include "store/record/record_classes.h"
+#include "workbench/commands/reference_changes.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 using Id = CModule::ModuleId;
 using Data::CEntList;
-
-/// Reference fields that no step of a renumbering rewrites.
-struct KeptField {
-  std::string_view table;
-  std::string_view field;
-};
-constexpr std::array kKeptFields{KeptField{"Node", "springProperty"},
-                                 KeptField{"Node", "massProperty"},
-                                 KeptField{"Node", "damperProperty"},
-                                 KeptField{"Prop2D", "materialDesign.grade"},
-                                 KeptField{"Prop3D", "materialDesign.grade"},
-                                 KeptField{"Prop3D", "materialAnalysis"},
-                                 KeptField{"Prop3D", "axis"},
-                                 KeptField{"InPlaneLoad", "axis"},
-                                 KeptField{"GridSurface", "plane"},
-                                 KeptField{"Spec", "consGridRef"},
-                                 KeptField{"Alignment", "surface"},
-                                 KeptField{"Block", "members"},
-                                 KeptField{"AnalysisTask", "stage"},
-                                 KeptField{"BodyFaceLoad", "loadCase"},
-                                 KeptField{"BodyThermalLoad", "loadCase"}};
 
 /// The words of lists whose number is one of a material or property.
 struct PropertyWord {
@@ -53,13 +35,14 @@ constexpr std::array kPropertyWords{
     PropertyWord{-55, "MP", CModule::MatFrp},       PropertyWord{-57, "MT", CModule::MatTimber},
     PropertyWord{-58, "MF", CModule::MatFabric}};
 
-/// That a list lost the number behind a word, which selects something else now.
+/// That a list lost the number behind a word.
 std::string LostWord(std::string const& name, std::string const& was, std::string const& now,
                      std::string const& gone) {
   auto text = name;
-  for (auto const& part : {" named '" + was, "' and is '" + now, "' now, since " + gone})
+  for (auto const& part :
+       {" named '" + was, "' and is '" + now, "' now, since there is no " + gone})
     text += part;
-  return text + " went";
+  return text;
 }
 
 std::string RecordText(std::string_view table, int number) {
@@ -114,20 +97,22 @@ class Losses {
   Losses(FinishedRun const& run, CommandResult& result)
       : m_run(run), m_survivors(run), m_result(result) {}
 
-  /// References whose record has another number now, or none, and that still name the old one.
-  void KeptReferences() {
-    std::map<std::string_view, Id> moved;
-    for (auto const& [module, scheme] : m_run.schemes)
-      if (auto const* const row = FindModule(module)) moved[row->stem] = module;
-    ForEachReference(m_run.before, [&](ReferenceSite const& site) {
-      if (site.value <= 0 || !site.exists || !IsKept(site)) return;
-      auto const target = moved.find(site.target);
-      if (target == moved.end()) return;
-      if (m_run.renumber.MapItem(target->second, site.value) == site.value) return;
-      m_result.undone.push_back(
-          {std::string(site.table), site.number,
-           std::string(site.field) + " still says " + RecordText(site.target, site.value)});
+  /// References that do not name their record any more.
+  void References() {
+    std::map<std::string_view, std::function<int(int)>> numbers;
+    ForEachTable([&](auto const& row) {
+      numbers[row.stem] = [this, &row](int n) {
+        int const number = NumberBehind(row, n);
+        return FindRecord((m_run.after.*row.all)(), number) == nullptr ? 0 : number;
+      };
     });
+    ReportReferences(
+        m_run,
+        [&](std::string_view table, int n) {
+          auto const found = numbers.find(table);
+          return found == numbers.end() ? n : found->second(n);
+        },
+        m_result);
   }
 
   /// Records of positional tables that went, and lists that became empty or lost a number.
@@ -136,29 +121,35 @@ class Losses {
       using Record = typename std::remove_cvref_t<decltype(row)>::Record;
       auto const& after = (m_run.after.*row.all)();
       ForEachRecord((m_run.before.*row.all)(), [&](int n, Record const& record) {
-        int const number = row.shape == TableShape::Positional
-                               ? m_survivors.NumberOf(row.stem, n)
-                               : m_run.renumber.MapItem(row.module, n);
+        int const number = NumberBehind(row, n);
         auto const* const now = number == 0 ? nullptr : FindRecord(after, number);
         if (now == nullptr && row.shape == TableShape::Positional)
           Warn("dropped-record", row.stem, n, "went with what it acts on or belongs to");
         if (now == nullptr) return;
         if constexpr (std::derived_from<Record, CEntList>)
           CompareLists(row.stem, n, "text", record, *now);
-        else if constexpr (Described<Record>)
-          ForEachField<Record>([&](auto const& field) {
-            using Value = typename std::remove_cvref_t<decltype(field)>::Value;
-            if constexpr (std::derived_from<Value, CEntList>)
-              CompareLists(row.stem, n, field.name, record.*field.member, *now.*field.member);
+        else
+          RecordClasses<Record>::TakeTwo(record, *now, [&](auto const& a, auto const& b) {
+            CompareFields(row.stem, n, a, b);
           });
       });
     });
   }
 
  private:
-  static bool IsKept(ReferenceSite const& site) {
-    return std::any_of(kKeptFields.begin(), kKeptFields.end(), [&](KeptField const& row) {
-      return row.table == site.table && row.field == site.field;
+  /// The number of a record of a table behind the run, 0 for one that went.
+  template <class Row>
+  int NumberBehind(Row const& row, int n) const {
+    return row.shape == TableShape::Positional ? m_survivors.NumberOf(row.stem, n)
+                                               : m_run.renumber.MapItem(row.module, n);
+  }
+
+  template <class Record>
+  void CompareFields(std::string_view table, int n, Record const& before, Record const& after) {
+    ForEachField<Record>([&](auto const& field) {
+      using Value = typename std::remove_cvref_t<decltype(field)>::Value;
+      if constexpr (std::derived_from<Value, CEntList>)
+        CompareLists(table, n, field.name, before.*field.member, after.*field.member);
     });
   }
 
@@ -177,6 +168,7 @@ class Losses {
       Warn("list-selects-otherwise", table, n,
            name + " was '" + was + "', and what it is now, '" + after.String().ToUtf8() +
                "', selects others");
+    if (before.String() == after.String()) return;
     auto const& words = before.Word();
     for (std::size_t i = 1; i < words.size(); ++i)
       for (auto const& word : kPropertyWords)
@@ -187,8 +179,16 @@ class Losses {
                         std::string(word.text) + std::to_string(words[i])));
   }
 
-  /// Whether a list of entities selects the records that it selected, where they are now.
-  bool SelectsTheSame(CEntList const& before, CEntList const& after) const {
+  /// Whether a list of entities selects the records that it selected, where they are now. Many
+  /// records have the same list.
+  bool SelectsTheSame(CEntList const& before, CEntList const& after) {
+    auto const [at, isNew] = m_compared.try_emplace(
+        {before.TypeOf(), before.String().Str(), after.String().Str()}, false);
+    if (isNew) at->second = Compare(before, after);
+    return at->second;
+  }
+
+  bool Compare(CEntList const& before, CEntList const& after) const {
     auto const module = EntModId(before.TypeOf());
     std::set<int> expected;
     for (int const n : Util::Item(before, m_run.before, -1, true))
@@ -201,13 +201,14 @@ class Losses {
   FinishedRun const& m_run;
   Survivors m_survivors;
   CommandResult& m_result;
+  std::map<std::tuple<SelType, std::wstring, std::wstring>, bool> m_compared;
 };
 
 }  // namespace
 
 void ReportLosses(FinishedRun const& run, CommandResult& result) {
   Losses losses(run, result);
-  losses.KeptReferences();
+  losses.References();
   losses.RecordsAndLists();
 }
 

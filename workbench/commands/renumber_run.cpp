@@ -30,6 +30,9 @@ constexpr std::array kErased{ErasedRow{CModule::DamperProp, CModule::SpringProp,
                              ErasedRow{CModule::DesignTask, CModule::AnalStage,
                                        "stages are erased when design tasks are renumbered"}};
 
+/// Tables that a run does not clear, so that a record stays beside what has its new number.
+constexpr std::array kStaying{CModule::DamperProp, CModule::DesignTask};
+
 std::map<int, int> Identity(CZelData const& model, Id module) {
   std::map<int, int> identity;
   for (int const n : NumbersInUse(model, module)) identity[n] = n;
@@ -57,15 +60,23 @@ void ReportErased(CZelData const& before, CZelData const& after, SchemeMaps cons
   }
 }
 
-void ReportMoves(CZelData const& before, SchemeMaps const& schemes, CommandResult& result) {
-  for (auto const& [module, scheme] : schemes) {
-    auto const stem = StemOf(module);
-    for (int const n : NumbersInUse(before, module)) {
-      auto const found = scheme.find(n);
-      int const number = found == scheme.end() ? 0 : found->second;
-      if (number != n) result.maps[stem].emplace_back(n, number);
-    }
-  }
+/// The records of a table behind a run whose number the run gave to none.
+std::vector<int> LeftBehind(CZelData const& after, SchemeMaps const& schemes, Id module) {
+  auto const scheme = schemes.find(module);
+  if (scheme == schemes.end()) return {};
+  std::set<int> given;
+  for (auto const& [old, number] : scheme->second) given.insert(number);
+  auto numbers = NumbersInUse(after, module);
+  std::erase_if(numbers, [&](int n) { return given.contains(n); });
+  return numbers;
+}
+
+void ReportLeft(CZelData const& after, SchemeMaps const& schemes, CommandResult& result) {
+  for (auto const module : kStaying)
+    for (int const n : LeftBehind(after, schemes, module))
+      result.warnings.push_back(
+          {"left-record", StemOf(module), n,
+           StemOf(module) + " " + std::to_string(n) + ": stays beside what has its new number"});
 }
 
 /// Why a run over properties ends at an element.
@@ -111,6 +122,17 @@ std::vector<int> NumbersInUse(CZelData const& model, Id module) {
   return {numbers.begin(), numbers.end()};
 }
 
+void ReportMoves(CZelData const& before, SchemeMaps const& schemes, CommandResult& result) {
+  for (auto const& [module, scheme] : schemes) {
+    auto const stem = StemOf(module);
+    for (int const n : NumbersInUse(before, module)) {
+      auto const found = scheme.find(n);
+      int const number = found == scheme.end() ? 0 : found->second;
+      if (number != n) result.maps[stem].emplace_back(n, number);
+    }
+  }
+}
+
 void RunRenumbering(CZelData& model, SchemeMaps const& schemes, bool keepDescriptions,
                     CommandResult& result) {
   CZelData const before(model);
@@ -120,7 +142,11 @@ void RunRenumbering(CZelData& model, SchemeMaps const& schemes, bool keepDescrip
   result.did = renumber.Go(keepDescriptions);
   if (!result.did) RefuseElement(before);
   ReportMoves(before, schemes, result);
+  // Combinations whose number none takes over would stand twice.
+  for (int const n : LeftBehind(model, all, CModule::CombinationCase))
+    model.BlankCombinationCase(n, 1);
   ReportErased(before, model, schemes, result);
+  ReportLeft(model, schemes, result);
   if (model.AnyResults())
     result.warnings.push_back(
         {"stale-results", "", 0, "results still stand under the numbers before the renumbering"});

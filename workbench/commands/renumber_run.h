@@ -12,12 +12,14 @@ namespace Tarvex::Workbench {
 using SchemeMaps = std::map<CModule::ModuleId, std::map<int, int>>;
 
 /// Applies schemes to a model. Tables whose references are rewritten only when they have a scheme
-/// get one that keeps their numbers. Reports what moved, and every record that the run emptied, cut
-/// or dropped. Throws Refusal where the run can't go through.
+/// get one that keeps their numbers; combinations whose number none takes over go. Reports what
+/// moved, and every record that the run emptied, cut, dropped or left. Throws Refusal where the run
+/// can't go through.
 void RunRenumbering(CZelData& model, SchemeMaps const& schemes, bool keepDescriptions,
                     CommandResult& result);
 
-/// A finished run: the model before and behind it, and its schemes with those that keep numbers.
+/// A finished run of a renumbering or tidying: the model before and behind it, and its schemes with
+/// those that keep numbers.
 struct FinishedRun {
   CZelData const& before;
   CZelData const& after;
@@ -26,8 +28,11 @@ struct FinishedRun {
   bool keepDescriptions;
 };
 
-/// Reports what a renumbering did beside moving records: loads and constraints that went, lists
-/// that became empty or lost a number behind a word, references that nothing followed.
+/// Reports the records that have another number now or went.
+void ReportMoves(CZelData const& before, SchemeMaps const& schemes, CommandResult& result);
+/// Reports what a run did beside moving records: loads and constraints that went, lists that became
+/// empty, select others or lost a number behind a word, references that name another record or
+/// none.
 void ReportLosses(FinishedRun const& run, CommandResult& result);
 
 /// Name of the table of a module.

@@ -3,10 +3,9 @@
 #include <array>
 #include <nlohmann/json.hpp>
 
-#include "store/model/registry.h"
-#include "store/record/node.h"
-#include "tarvex/tidy.h"
+#include "store/select/set.h"
 #include "workbench/commands/errors.h"
+#include "workbench/commands/property_use.h"
 #include "workbench/commands/renumber_run.h"
 #include "workbench/report/text.h"
 
@@ -27,29 +26,6 @@ constexpr std::array kTidyOptions{
     Option{"--sections", "", ValueKind::Flag, "false", "with --blank: unused sections go, too"},
     Option{"--fit-2d-types", "", ValueKind::Flag, "false",
            "give 2D properties the type that the kind of structure asks for"}};
-
-struct UseRow {
-  Id module;
-  bool (CIndexProp::*isUsed)(int) const;
-};
-constexpr std::array kUseRows{UseRow{CModule::MatAnal, &CIndexProp::IsMatAnalUsed},
-                              UseRow{CModule::MatSteel, &CIndexProp::IsMatSteelUsed},
-                              UseRow{CModule::MatConcrete, &CIndexProp::IsMatConcreteUsed},
-                              UseRow{CModule::MatAluminium, &CIndexProp::IsMatAluminiumUsed},
-                              UseRow{CModule::MatGlass, &CIndexProp::IsMatGlassUsed},
-                              UseRow{CModule::MatFrp, &CIndexProp::IsMatFrpUsed},
-                              UseRow{CModule::MatTimber, &CIndexProp::IsMatTimberUsed},
-                              UseRow{CModule::MatFabric, &CIndexProp::IsMatFabricUsed},
-                              UseRow{CModule::MatRebar, &CIndexProp::IsMatRebarUsed},
-                              UseRow{CModule::Section, &CIndexProp::IsSectionUsed},
-                              UseRow{CModule::Prop2D, &CIndexProp::IsProp2DUsed},
-                              UseRow{CModule::SpringProp, &CIndexProp::IsSpringUsed},
-                              UseRow{CModule::DamperProp, &CIndexProp::IsDamperUsed},
-                              UseRow{CModule::MassProp, &CIndexProp::IsMassUsed},
-                              UseRow{CModule::LinkProp, &CIndexProp::IsLinkUsed},
-                              UseRow{CModule::CableProp, &CIndexProp::IsCableUsed},
-                              UseRow{CModule::SpacerProp, &CIndexProp::IsSpacerUsed},
-                              UseRow{CModule::Prop3D, &CIndexProp::IsProp3DUsed}};
 
 std::string SetText(std::vector<int> const& numbers) {
   Util::CSet set;
@@ -77,38 +53,30 @@ void Used(CZelData& model, Arguments const& arguments, CommandResult& result) {
   result.result = std::make_shared<Json>(Json{{"tables", tables}});
 }
 
-/// The properties of nodes keep their numbers when the tables close up.
-void ReportNodes(CZelData const& before, CommandResult& result) {
-  struct NodeField {
-    Id module;
-    int (Data::CNode::*number)() const;
-    char const* name;
-  };
-  constexpr std::array kFields{
-      NodeField{CModule::SpringProp, &Data::CNode::SpringProperty, "springProperty"},
-      NodeField{CModule::MassProp, &Data::CNode::MassProperty, "massProperty"},
-      NodeField{CModule::DamperProp, &Data::CNode::DamperProperty, "damperProperty"}};
-  for (auto const& field : kFields) {
-    std::map<int, int> numbers;
-    for (int const n : NumbersInUse(before, field.module))
-      numbers.emplace(n, static_cast<int>(numbers.size()) + 1);
-    for (auto const& [n, node] : before.Node()) {
-      auto const found = numbers.find((node.*field.number)());
-      if (found != numbers.end() && found->first != found->second)
-        result.undone.push_back({"Node", static_cast<int>(n),
-                                 std::string(field.name) + " still says " + StemOf(field.module) +
-                                     " " + std::to_string(found->first)});
-    }
+/// What tidying does to the numbers of materials and properties. @param left the model without the
+/// records that went, all of them under the numbers that they had before.
+SchemeMaps SchemesOf(CZelData const& left, bool compact) {
+  SchemeMaps schemes;
+  for (auto const& row : kUseRows) {
+    auto& scheme = schemes[row.module];
+    for (int next = 0; int const n : NumbersInUse(left, row.module))
+      scheme[n] = compact ? ++next : n;
   }
+  return schemes;
 }
 
-void ReportCompaction(CZelData const& before, CommandResult& result) {
-  for (auto const& row : kUseRows) {
-    int next = 0;
-    for (int const n : NumbersInUse(before, row.module))
-      if (n != ++next) result.maps[StemOf(row.module)].emplace_back(n, next);
-  }
-  ReportNodes(before, result);
+/// Removes and closes up, and reports what became of all that names materials and properties.
+void TidyNumbers(CZelData& model, bool blank, bool compact, bool sections, CommandResult& result) {
+  CZelData const before(model);
+  CUpdateProp tool(model);
+  tool.SetNoSection(sections);
+  if (blank) result.did = tool.Update(CUpdateProp::kBlankUnused);
+  auto const schemes = SchemesOf(model, compact);
+  if (compact) result.did = tool.Update(CUpdateProp::kDeleteBlank) || result.did;
+  ReportMoves(before, schemes, result);
+  CRenumber numbers(&model);
+  for (auto const& [module, scheme] : schemes) numbers.Index(module, scheme);
+  ReportLosses({before, model, numbers, schemes, false}, result);
 }
 
 void Tidy(CZelData& model, Arguments const& arguments, CommandResult& result) {
@@ -117,14 +85,7 @@ void Tidy(CZelData& model, Arguments const& arguments, CommandResult& result) {
   bool const fit = arguments.Flag("--fit-2d-types");
   if (!blank && !compact && !fit) throw UsageError("give --blank, --compact or --fit-2d-types");
   if (arguments.Flag("--sections") && !blank) throw UsageError("--sections goes with --blank");
-  CUpdateProp tool(model);
-  tool.SetNoSection(arguments.Flag("--sections"));
-  if (blank) result.did = tool.Update(CUpdateProp::kBlankUnused);
-  if (compact) {
-    CZelData const before(model);  // NOLINT(performance-unnecessary-copy-initialization): changes
-    result.did = tool.Update(CUpdateProp::kDeleteBlank) || result.did;
-    ReportCompaction(before, result);
-  }
+  if (blank || compact) TidyNumbers(model, blank, compact, arguments.Flag("--sections"), result);
   if (fit) {
     CZelData const before(model);
     CUpdateProp::Update2dElementProperties(model);

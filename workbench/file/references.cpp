@@ -87,23 +87,27 @@ struct Emitter {
 
   /// Emits the cases that a description names; the index counts them.
   void Emit(CString const& description) {
+    site.inText = true;
     site.index = 0;
     for (auto const& ref : Data::CasesIn(description)) {
       Emit(ref.Case(), CaseModule(ref.CaseType()));
       ++site.index;
     }
     site.index = -1;
+    site.inText = false;
   }
 
   /// Emits what the words of a list name. @param own the table of its numbers.
   void Emit(Data::CEntList const& list, CModule::ModuleId own) {
     Data::ListScanner scanner(Data::ListAccess::Text(list).Tokens());
     Data::ListElement element;
+    site.inText = true;
     while (scanner.Next(element)) {
       site.index = static_cast<int>(element.begin);
       EmitElement(element, list.TypeOf(), own);
     }
     site.index = -1;
+    site.inText = false;
   }
 
  private:

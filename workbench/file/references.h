@@ -19,6 +19,7 @@ struct ReferenceSite {
   int value = 0;            ///< the number that is referred to; 0 is none
   std::string_view target;  ///< stem of the table that it points into, empty when no table has it
   bool exists = false;      ///< whether the target table has such a record
+  bool inText = false;      ///< whether a list or a description names it, not a field of its own
 };
 
 /// Calls visit for every reference field of every record, in the order of the registry and records

@@ -187,6 +187,8 @@ TEST_F(RenumberCommand, WantsOneFormAndAKnownTable) {
   expect({"--table", "Node", "--shift", "1,x"}, "--shift: '1,x' is not 2 numbers, split by commas");
   expect({"--table", "Axis", "--direction", "1,0,0"},
          "--direction: nodes, elements and members alone have a place");
+  for (std::string const text : {"0,0,0", "nan,0,0", "0,inf,0"})
+    expect({"--table", "Node", "--direction", text}, "--direction: '" + text + "' is no direction");
 }
 
 TEST_F(RenumberCommand, KeepsTheCasesOfTasksWhenLoadCasesMove) {
@@ -237,8 +239,12 @@ TEST_F(RenumberCommand, NamesNodesThatKeepTheNumberOfTheirSpring) {
 }
 
 TEST_F(RenumberCommand, NamesTheSpringsThatGoWhenDampersMove) {
-  auto const json = RunOn({"renumber", "--table", "DamperProp", "--compress"}, 0).Json();
+  auto const json = RunOn({"renumber", "--table", "DamperProp", "--compress"}, 1).Json();
   EXPECT_EQ(Warned(json, "erased-record"), (Lines{"SpringProp 4", "SpringProp 6"}));
+  EXPECT_EQ(Undone(json.at("data")), Lines{"Node 2: springProperty still says SpringProp 4"});
+  // the damper stands under both numbers
+  EXPECT_EQ(Numbers("DamperProp"), (std::vector<int>{1, 6}));
+  EXPECT_EQ(Warned(json, "left-record"), Lines{"DamperProp 6"});
 }
 
 TEST_F(RenumberCommand, RollsBackWhenAnElementHasNoTableOfProperties) {
@@ -256,13 +262,14 @@ TEST_F(RenumberCommand, RollsBackWhenAnElementHasNoTableOfProperties) {
 class DeleteCommand : public RenumberCommand {};
 
 TEST_F(DeleteCommand, DeletesNodesAndWhatNamesThem) {
-  auto const json = RunOn({"delete", "--kind", "node", "--list", "9"}, 0).Json();
+  auto const json = RunOn({"delete", "--kind", "node", "--list", "9"}, 1).Json();
   EXPECT_EQ(json.at("data").at("maps"), Json::parse(R"({"Node": [[9, 0]]})"));
   EXPECT_EQ(Numbers("Node"), (std::vector<int>{2, 4, 6}));
   EXPECT_EQ(Record("List", 1).at("text"), "2 4 6");
   EXPECT_EQ(Warned(json, "dropped-record"), Lines{"NodeLoad 1"});
   EXPECT_EQ(Table("NodeLoad").size(), 1);
   // what the rules leave: the orientation node
+  EXPECT_EQ(Undone(json.at("data")), Lines{"Elem 3: orientationNode still says Node 9"});
   EXPECT_EQ(Record("Elem", 3).at("orientationNode"), 9);
   EXPECT_EQ(RunTarvex({"check", Path("out.json")}).exit, 1);
 }
@@ -290,7 +297,8 @@ TEST_F(DeleteCommand, DeletesElementsAndTheirPlaceInMembers) {
 }
 
 TEST_F(DeleteCommand, LeavesTheMemberThatAnElementNames) {
-  Data({"delete", "--kind", "member", "--list", "5"});
+  auto const data = Data({"delete", "--kind", "member", "--list", "5"}, 1);
+  EXPECT_EQ(Undone(data), Lines{"Elem 3: parentMember.member still says Member 5"});
   EXPECT_EQ(Record("Elem", 3).at("parentMember").at("member"), 5);
 }
 
