@@ -44,17 +44,13 @@ class CConnectSlab::Run {
       if (!IsColumn(n)) continue;
       ++m_tool.m_counts[kEndsExamined];
       int const node = EndNode(n, pass);
-      if (m_tool.m_overwrite || !IsRigid(node)) m_candidates.push_back({node, n});
+      bool const isLeft = !m_tool.m_overwrite && IsRigid(node);
+      (isLeft ? m_tool.m_passedOver : m_candidates).push_back({n, node});
     }
     for (auto const& end : m_candidates) Tie(end);
   }
 
  private:
-  struct End {
-    int node;
-    int column;
-  };
-
   void IndexRigids() {
     for (int n = 1; n <= m_model.HighestRigid(); ++n) Index(n, m_model.Rigid(n));
   }
@@ -180,6 +176,7 @@ CConnectSlab::~CConnectSlab() = default;
 
 bool CConnectSlab::Do() {
   m_counts = {};
+  m_passedOver.clear();
   m_model.FlagRebuild();
   m_model.rebuildHold = true;
   Run run(*this);

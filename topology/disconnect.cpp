@@ -33,11 +33,10 @@ int IndexIn(Items const& items, int node) {
   return at == items.end() ? kNowhere : static_cast<int>(at - items.begin());
 }
 
-/// The lowest entity above a number that uses a node, 0 for none.
-int NextAttached(CZelData const& model, int node, SelType kind, int above) {
-  auto const& attached = model.Node(node).AttachedEnt(kind);
-  auto const at = attached.upper_bound(above);
-  return at == attached.end() ? 0 : *at;
+/// Adds a number to an ascending row, where it is not there yet.
+void AddAscending(std::vector<int>& row, int number) {
+  auto const at = std::lower_bound(row.begin(), row.end(), number);
+  if (at == row.end() || *at != number) row.insert(at, number);
 }
 
 CString TieName(SelType kind, int entity) {
@@ -75,7 +74,7 @@ bool CDisconnect::DisconnectNode(SelType kind, Util::CTopoSet* nodes) {
   EntitySetScope const scope(*this, entities);
   std::vector<int> treated;
   int const count = NodesInSet(treated);
-  for (int const node : treated) JointSpring(node);
+  JointSprings(treated);
   return count > 0;
 }
 
@@ -84,7 +83,7 @@ bool CDisconnect::DisconnectEntity(SelType kind, Util::CTopoSet* entities) {
   m_entities = entities;
   std::vector<int> treated;
   int const count = NodesOnEntities(treated);
-  for (int const node : treated) JointSpring(node);
+  JointSprings(treated);
   return count > 0;
 }
 
@@ -107,16 +106,7 @@ int CDisconnect::NodesOnEntities(std::vector<int>& nodes) {
   std::vector<int> own;
   ForEachItem(m_entities, [&](int entity) {
     if (!IsSelected(entity)) return;
-    own.clear();
-    if (m_kind == SelElement) {
-      auto const& topology = m_model.Elem(entity).Topology();
-      own.assign(topology.begin(), topology.end());
-    } else {
-      auto const topology = m_model.Member(entity).Topo().Nodes();
-      own.assign(topology.begin(), topology.end());
-    }
-    std::sort(own.begin(), own.end());
-    own.erase(std::unique(own.begin(), own.end()), own.end());
+    ReadNodes(entity, own);
     for (int const node : own) ++uses[node];
   });
   for (auto const& [node, count] : uses)
@@ -129,6 +119,34 @@ bool CDisconnect::IsSelected(int entity) const {
   if (m_entities == nullptr || !m_entities->IsItemIncluded(entity, kItself)) return false;
   if (m_kind == SelElement) return m_model.ElemExist(entity);
   return m_kind == SelMember && m_model.MemberExist(entity);
+}
+
+/// The nodes of an entity that can be treated, each once.
+void CDisconnect::ReadNodes(int entity, std::vector<int>& nodes) const {
+  if (m_kind == SelElement) {
+    auto const& topology = m_model.Elem(entity).Topology();
+    nodes.assign(topology.begin(), topology.end());
+  } else {
+    auto const topology = m_model.Member(entity).Topo().Nodes();
+    nodes.assign(topology.begin(), topology.end());
+  }
+  std::sort(nodes.begin(), nodes.end());
+  nodes.erase(std::unique(nodes.begin(), nodes.end()), nodes.end());
+}
+
+/// The entities of the set at each of some nodes. By topology: what a node knows of its entities
+/// may lag during a hold of the rebuild.
+CDisconnect::UsersOf CDisconnect::UsersOfNodes(std::vector<int> const& nodes) const {
+  UsersOf users;
+  for (int const node : nodes) users[node];
+  std::vector<int> own;
+  ForEachItem(m_entities, [&](int entity) {
+    if (!IsSelected(entity)) return;
+    ReadNodes(entity, own);
+    for (int const node : own)
+      if (auto const at = users.find(node); at != users.end()) at->second.push_back(entity);
+  });
+  return users;
 }
 
 int CDisconnect::PlaceOf(int node, int entity) const {
@@ -149,23 +167,37 @@ void CDisconnect::PutNode(int entity, int place, int node) {
   }
 }
 
-void CDisconnect::JointSpring(int node) {
+void CDisconnect::JointSprings(std::vector<int> const& nodes) {
+  auto usersOf = UsersOfNodes(nodes);
+  for (int const node : nodes) JointSpring(node, usersOf[node]);
+}
+
+void CDisconnect::JointSpring(int node) { JointSprings({node}); }
+
+/// As the step, with the entities of the set that held the node when the run began.
+void CDisconnect::JointSpring(int node, std::vector<int>& users) {
   if (!m_model.NodeExist(node)) return;
   bool keepFirst = !m_fullDisconnect;
-  int entity = 0;
-  // What uses the node is asked for anew at each step, since each store changes it.
-  while ((entity = NextAttached(m_model, node, m_kind, entity)) != 0) {
-    if (!IsSelected(entity)) continue;
-    int const place = PlaceOf(node, entity);
+  for (std::size_t i = 0; i < users.size(); ++i) {
+    int const entity = users[i];
+    // Asked for anew, since a spring may have come in the place of the entity.
+    int const place = IsSelected(entity) ? PlaceOf(node, entity) : kNowhere;
     if (place == kNowhere) continue;
     if (std::exchange(keepFirst, false)) continue;
     int const newNode = m_model.HighestNode() + 1;
     PutNode(entity, place, newNode);
     CreateNode(node, newNode);
     if (m_createJoint) CreateJoint(node, newNode, entity);
-    if (m_createSpring) CreateSpring(node, newNode, entity);
+    if (!m_createSpring) continue;
+    // The spring holds the node too, and may be of the set.
+    if (int const spring = NextSpring(); spring > entity) AddAscending(users, spring);
+    CreateSpring(node, newNode, entity);
   }
 }
+
+/// Number of the next spring: elements and members that stand for springs share the numbers of
+/// elements.
+int CDisconnect::NextSpring() const { return m_model.HighestElem() + 1; }
 
 bool CDisconnect::CreateNode(int oldNode, int newNode) {
   auto node = m_model.Node(oldNode);
@@ -186,8 +218,7 @@ bool CDisconnect::CreateJoint(int oldNode, int newNode, int entity) {
 
 bool CDisconnect::CreateSpring(int oldNode, int newNode, int entity) {
   int const property = m_model.HighestSpringProp() + 1;
-  // Elements and members that stand for springs share the numbers of elements.
-  int const n = m_model.HighestElem() + 1;
+  int const n = NextSpring();
   if (m_kind == SelElement) {
     Data::CElement spring(kSpringGroup, ElementType::Spring, property);
     spring.SetName(TieName(m_kind, entity));

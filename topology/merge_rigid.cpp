@@ -110,7 +110,6 @@ MergeRigid::~MergeRigid() { StoreRigids(m_model, m_saved); }
 void MergeRigid::Merge(int stage) {
   auto rigids = m_model.Rigid();
   if (rigids.size() < 2) return;
-  m_model.FlagRebuild();
   Run(*this, rigids, stage).MergeAll();
   UpdateRigids(rigids);
 }

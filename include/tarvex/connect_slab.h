@@ -11,6 +11,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "store/select/set.h"
 #include "tarvex/export.h"
@@ -58,6 +59,15 @@ class TARVEX_EXPORT CConnectSlab {
   /// 3 the constraints that were written, replaced ones included. 0 for any other index.
   int NumItem(int index) const;
 
+  /// The end of a column.
+  struct End {
+    int column;
+    int node;
+  };
+  /// The ends that the last run passed over, since their node was in a rigid constraint by then:
+  /// heads, then feet, which may be held by constraints that the run wrote for heads.
+  std::vector<End> const& PassedOver() const { return m_passedOver; }
+
  private:
   class Run;
 
@@ -67,6 +77,7 @@ class TARVEX_EXPORT CConnectSlab {
   double m_radius = 0;
   bool m_overwrite = false;
   std::array<int, 3> m_counts{};
+  std::vector<End> m_passedOver;
 };
 
 }  // namespace Tarvex

@@ -12,6 +12,7 @@
 
 #include <deque>
 #include <set>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -76,8 +77,16 @@ class TARVEX_EXPORT CDisconnect {
  private:
   class EntitySetScope;
 
+  /// Entities of the set by node, ascending.
+  using UsersOf = std::unordered_map<int, std::vector<int>>;
+
   bool IsSelected(int entity) const;
+  void ReadNodes(int entity, std::vector<int>& nodes) const;
   int PlaceOf(int node, int entity) const;
+  int NextSpring() const;
+  UsersOf UsersOfNodes(std::vector<int> const& nodes) const;
+  void JointSprings(std::vector<int> const& nodes);
+  void JointSpring(int node, std::vector<int>& users);
   void PutNode(int entity, int place, int node);
 
   CZelData& m_model;

@@ -50,7 +50,8 @@ class TARVEX_EXPORT MergeRigid {
   /// Takes a second constraint into a first: its constrained nodes and its primary node come behind
   /// those of the first, and its type becomes 0. Where the model restrains its primary node, in the
   /// model without stages, in a direction that it constrains, that node leads the first from then
-  /// on; the former primary node of the first is then held only where the lists name it.
+  /// on; the former primary node of the first is then held only where the lists name it. What the
+  /// kind of structure rules out counts as restrained.
   void DoMerge(Data::CRigid& first, Data::CRigid& second) const;
 
   /// Keeps the model's rigid constraints for the destructor, unless the kept ones are given, and

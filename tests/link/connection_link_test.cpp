@@ -18,7 +18,8 @@ using Testing::AreLinked;
 
 TEST(ConnectionLink, ConnectSlabIsMadeCopiedMovedConfiguredAndRun) {
   EXPECT_TRUE(AreLinked(&CConnectSlab::SetSet, &CConnectSlab::SetMode, &CConnectSlab::SetRadius,
-                        &CConnectSlab::SetOverwrite, &CConnectSlab::Do, &CConnectSlab::NumItem));
+                        &CConnectSlab::SetOverwrite, &CConnectSlab::Do, &CConnectSlab::NumItem,
+                        &CConnectSlab::PassedOver));
   CZelData model;
   Testing::Grid(model, 1, 1);
   model.SetElem(2, Testing::Element(ElementType::Beam, {Testing::NodeAt(model, 0, 0, -3), 1}));

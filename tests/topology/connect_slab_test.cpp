@@ -47,6 +47,22 @@ CZelData SlabOnColumn(int section = 0) {
   return model;
 }
 
+/// The eight nodes of a quadratic square of 2 by 2, and node 9 three below the first.
+CZelData QuadraticPoints() {
+  CZelData model;
+  for (auto const& p : Testing::Points{{0, 0, 0},
+                                       {2, 0, 0},
+                                       {2, 2, 0},
+                                       {0, 2, 0},
+                                       {1, 0, 0},
+                                       {2, 1, 0},
+                                       {1, 2, 0},
+                                       {0, 1, 0},
+                                       {0, 0, -3}})
+    NodeAt(model, p.x, p.y, p.z);
+  return model;
+}
+
 void AddSection(CZelData& model, int n, wchar_t const* description) {
   Data::CSecComp component;
   component.SetDescription(CString(description));
@@ -188,6 +204,27 @@ TEST(CConnectSlab, MeetsTheHeadsAgainInThePassOfFeet) {
   EXPECT_EQ(model.Rigid(1).Name(), L"Column 5");
 }
 
+TEST(CConnectSlab, SkipsAFootThatIsHeldByAConstraintOfThisRun) {
+  auto model = SlabOnColumn();
+  Beam(model, 9, NodeAt(model, 2, 2, 3));  // element 6 stands on a corner of the slab
+  CConnectSlab tool(model);
+  tool.SetSet(AllElements(model));
+  // First pass: heads 5 and 11. Second: both again and foot 10; foot 9 is held by "Column 5".
+  EXPECT_EQ(RunTool(tool), (Outcome{true, {4, 5, 1}}));
+  EXPECT_EQ(NodesOf(model, 1), L"5 1 2 4 3 6 8 7 9");
+  ASSERT_EQ(tool.PassedOver().size(), 1U);
+  EXPECT_EQ(tool.PassedOver()[0].column, 6);
+  EXPECT_EQ(tool.PassedOver()[0].node, 9);
+  // Each run tells its own: heads 5 and 9 are held now, and so is foot 9 of 6.
+  tool.Do();
+  ASSERT_EQ(tool.PassedOver().size(), 2U);
+  EXPECT_EQ(tool.PassedOver()[0].node, 5);
+  EXPECT_EQ(tool.PassedOver()[1].node, 9);
+  tool.SetOverwrite(true);
+  tool.Do();
+  EXPECT_TRUE(tool.PassedOver().empty());
+}
+
 TEST(CConnectSlab, OverwritingLetsTheColumnAboveHaveTheLastWord) {
   auto model = SlabOnColumn();
   Beam(model, 5, NodeAt(model, 1, 1, 3));
@@ -275,17 +312,7 @@ TEST(CConnectSlab, PassesLoadPanelsAndLinesOver) {
 }
 
 TEST(CConnectSlab, TiesMidSideNodesToo) {
-  CZelData model;
-  for (auto const& p : Testing::Points{{0, 0, 0},
-                                       {2, 0, 0},
-                                       {2, 2, 0},
-                                       {0, 2, 0},
-                                       {1, 0, 0},
-                                       {2, 1, 0},
-                                       {1, 2, 0},
-                                       {0, 1, 0},
-                                       {0, 0, -3}})
-    NodeAt(model, p.x, p.y, p.z);
+  auto model = QuadraticPoints();
   AddElement(model, ElementType::Quad8, {1, 2, 3, 4, 5, 6, 7, 8});
   Beam(model, 9, 1);
   Connect(model);
@@ -301,17 +328,7 @@ TEST(CConnectSlab, LeavesElementsOutThatLackACorner) {
 }
 
 TEST(CConnectSlab, LeavesMidSideNodesOutThatDoNotExist) {
-  CZelData model;
-  for (auto const& p : Testing::Points{{0, 0, 0},
-                                       {2, 0, 0},
-                                       {2, 2, 0},
-                                       {0, 2, 0},
-                                       {1, 0, 0},
-                                       {2, 1, 0},
-                                       {1, 2, 0},
-                                       {0, 1, 0},
-                                       {0, 0, -3}})
-    NodeAt(model, p.x, p.y, p.z);
+  auto model = QuadraticPoints();
   AddElement(model, ElementType::Quad8, {1, 2, 3, 4, 5, 0, 7, 8});
   model.BlankNode(7, 1);
   Beam(model, 9, 1);
@@ -358,6 +375,12 @@ TEST(CConnectSlab, TakesTheGreatestSectionOfTheColumnsAtTheNode) {
   AddSection(model, 2, L"rectangle 2 2");  // 1.0
   EXPECT_EQ(Connect(model, ConnectMode::WithinSection).counts[2], 1);
   EXPECT_EQ(model.Rigid(1).Name(), L"Column 5");
+  // The greatest, not the last.
+  auto turned = SlabOnColumn(2);
+  Beam(turned, 5, NodeAt(turned, 1, 1, 3), 1);
+  AddSection(turned, 1, L"rectangle 0.3 0.3");
+  AddSection(turned, 2, L"rectangle 2 2");
+  EXPECT_EQ(Connect(turned, ConnectMode::WithinSection).counts[2], 1);
   // Columns outside the set do not count.
   auto alone = SlabOnColumn(1);
   Beam(alone, 5, NodeAt(alone, 1, 1, 3), 2);
@@ -369,6 +392,33 @@ TEST(CConnectSlab, TakesTheGreatestSectionOfTheColumnsAtTheNode) {
   tool.SetSet(set);
   tool.SetMode(ConnectMode::WithinSection);
   EXPECT_FALSE(tool.Do());
+}
+
+TEST(CConnectSlab, TakesTheSectionsOfVerticalBeamsOnlyForTheRadius) {
+  for (auto const type : {ElementType::Beam, ElementType::Bar}) {
+    auto model = SlabOnColumn(1);
+    AddSection(model, 1, L"rectangle 0.3 0.3");
+    AddSection(model, 2, L"rectangle 2 2");  // 1.0, which would do
+    int const level = Beam(model, 5, 6, 2);
+    model.SetElemType(level, type);
+    EXPECT_FALSE(Connect(model, ConnectMode::WithinSection).did);
+  }
+  auto bar = SlabOnColumn(1);
+  AddSection(bar, 1, L"rectangle 0.3 0.3");
+  AddSection(bar, 2, L"rectangle 2 2");
+  int const above = Beam(bar, 5, NodeAt(bar, 1, 1, 3), 2);
+  bar.SetElemType(above, ElementType::Bar);
+  EXPECT_FALSE(Connect(bar, ConnectMode::WithinSection).did);
+}
+
+TEST(CConnectSlab, TakesTheSectionAtTheFirstEndOfTheColumnForTheRadius) {
+  // 0.25 * 2 * 1.5 = 0.75 at the start, 0.25 * 1.5 * 1.25 = 0.47 halfway, 0.25 at the end.
+  auto model = SlabOnColumn(3);
+  AddSection(model, 3, L"rectangle 2 1.5 to 1 1");
+  EXPECT_TRUE(Connect(model, ConnectMode::WithinSection).did);
+  auto turned = SlabOnColumn(3);
+  AddSection(turned, 3, L"rectangle 1 1 to 2 1.5");
+  EXPECT_FALSE(Connect(turned, ConnectMode::WithinSection).did);
 }
 
 TEST(CConnectSlab, TakesARadiusOfZeroWithoutASection) {
@@ -398,6 +448,16 @@ TEST(CConnectSlab, CountsAnewInEachRunAndNothingForOtherIndices) {
   EXPECT_EQ(RunTool(tool), (Outcome{true, {2, 3, 1}}));
   EXPECT_EQ(RunTool(tool), (Outcome{false, {2, 1, 0}}));  // the head is held now
   for (int const i : {-1, 0, 4}) EXPECT_EQ(tool.NumItem(i), 0);
+}
+
+TEST(CConnectSlab, SeesElementsThatCameDuringAHoldOfTheRebuild) {
+  auto model = SlabOnColumn();
+  auto const corner = model.Elem(4);  // 5 6 9 8
+  model.BlankElem(4, 1);
+  model.rebuildHold = true;
+  model.SetElem(4, corner);
+  Connect(model);
+  EXPECT_EQ(NodesOf(model, 1), L"5 1 2 4 3 6 8 7 9");
 }
 
 TEST(CConnectSlab, ClearsTheRebuildHoldPlainly) {

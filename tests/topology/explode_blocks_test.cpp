@@ -209,6 +209,17 @@ TEST(ExplodeBlocks, CopiesWhatTheNodesHold) {
   EXPECT_TRUE(model.Node(3) == foot);
 }
 
+TEST(ExplodeBlocks, GivesMergedNodesTheRestraintOfEither) {
+  auto model = Beam();
+  model.SetNodeRestraint(1, Vbool6(L"pin"));
+  AddBlock(model, {1}, 1, {6, 0, 0});
+  Explode(model);
+  // Node 3, the copy of 1, stood on 2; node 4 is the copy of 2.
+  EXPECT_EQ(TopoOf(model, 2), L"2 4");
+  EXPECT_EQ(model.Node(2).Restraint(), Vbool6(true, true, true, false, false, false));
+  EXPECT_EQ(model.Node(4).Restraint(), Vbool6());
+}
+
 TEST(ExplodeBlocks, LeavesTheOrientationNodeAsItIs) {
   auto model = Column();
   auto member = model.Member(1);

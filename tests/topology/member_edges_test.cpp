@@ -112,6 +112,19 @@ TEST(MemberEdges, MovesItsElementsToNewNodesJoinedByAPin) {
   EXPECT_EQ(model.Joint(2).ConstrainedNode(), 11);
 }
 
+TEST(MemberEdges, CopiesAllOfANodeButItsRestraint) {
+  auto model = Slab();
+  Data::CNode node({2, 0, 0}, 2, Vbool6(L"fix"));
+  node.SetMassProperty(5);
+  node.SetMeshSize(0.5);
+  model.SetNode(3, node);
+  MemberEdges(model).ReleaseEdges(1);  // node 3 stands on the edge and has a mass
+  ASSERT_EQ(model.HighestNode(), 10);
+  EXPECT_TRUE(model.Node(3) == node);
+  node.SetRestraint(Vbool6());
+  EXPECT_TRUE(model.Node(10) == node);
+}
+
 TEST(MemberEdges, LeavesTheMembersOwnTopologyAndChildren) {
   auto model = Slab();
   Beam(model, 3, 6);

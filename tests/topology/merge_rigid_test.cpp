@@ -82,6 +82,18 @@ TEST(CheckRigid, NeedsTheStageInItsList) {
   EXPECT_FALSE(acts(L"", 0));
 }
 
+TEST(CheckRigid, CountsStagesInAllUpToTheHighestOne) {
+  auto model = ModelOf({});
+  for (int const n : {1, 3}) model.SetAnalStage(n, Data::CAnalStage(L"", {SelElement, L"all"}));
+  MergeRigid const tool(model);
+  auto const rigid = Rigid(1, L"2");
+  // "all" is 0 to 3: a constraint that acts in stage 4 or -1 is not in its list.
+  for (int const stage : {-1, 4}) {
+    ASSERT_TRUE(model.RigidIsActive(rigid, stage)) << stage;
+    EXPECT_FALSE(tool.CheckRigid(rigid, stage)) << stage;
+  }
+}
+
 TEST(CheckRigid, CountsStageZeroInAllOfAModelWithoutStages) {
   auto model = ModelOf({});
   ASSERT_EQ(model.HighestAnalStage(), 0);
@@ -169,6 +181,18 @@ TEST(DoMerge, CountsRestraintsOfListsInTheModelWithoutStages) {
     MergeRigid(model).DoMerge(first, second);
     EXPECT_EQ(first.PrimaryNode(), primary);
   }
+}
+
+TEST(DoMerge, CountsWhatTheKindOfStructureRestrains) {
+  auto model = ModelOf({});
+  Data::CSpec spec;
+  spec.SetStructType(StrType::PlaneXZ);  // nodes do not move in Y, XX and ZZ
+  model.SetSpec(spec);
+  auto first = Rigid(1, L"2");
+  auto second = Rigid(3, L"2 4");
+  MergeRigid(model).DoMerge(first, second);
+  EXPECT_EQ(first.PrimaryNode(), 3);
+  EXPECT_EQ(NodesOf(first), L"2 2 4 3");
 }
 
 // The table exchanged.

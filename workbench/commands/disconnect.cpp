@@ -1,6 +1,9 @@
 #include "workbench/commands/disconnect.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -9,6 +12,7 @@
 #include "store/record/element.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/select/numbers.h"
 #include "tarvex/disconnect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/selection.h"
@@ -40,8 +44,11 @@ constexpr std::array kReleaseEdgesOptions{
 constexpr std::array kChainOptions{Option{"--list", "TEXT", ValueKind::Text, "all",
                                           "the 1D elements, which run end to end, as a list text"}};
 
+constexpr long long kMostCopies = 10'000;  // without --yes
+
 constexpr std::array kExplodeBlocksOptions{
-    Option{"--list", "TEXT", ValueKind::Text, "all", "the numbers of the blocks, as a list text"}};
+    Option{"--list", "TEXT", ValueKind::Text, "all", "the numbers of the blocks, as a list text"},
+    Option{"--yes", "", ValueKind::Flag, "false", "make more than 10000 members"}};
 
 Numbers From(int first, int last) {
   Numbers numbers;
@@ -57,7 +64,8 @@ void WarnOfCopiedProperties(CZelData const& model, int firstNew, CommandResult& 
       continue;
     result.warnings.push_back(
         {"copied-property", "Node", n,
-         "the spring, mass or damper of the node that it was parted from stands at both"});
+         "node " + std::to_string(n) +
+             ": the spring, mass or damper of the node that it was parted from stands at both"});
     result.lookAt = true;
   }
 }
@@ -70,20 +78,35 @@ void WarnOfReplacedMembers(CZelData const& before, CZelData const& after, Comman
     result.warnings.push_back({"member-replaced", "Member", number, text});
     result.lookAt = true;
   };
-  if (springs > 0 && before.MemberExist(number)) warn("it was replaced by a spring");
+  auto const member = "member " + std::to_string(number);
+  if (springs > 0 && before.MemberExist(number)) warn(member + " was replaced by a spring");
   if (springs > 1)
-    warn(Counted(static_cast<std::size_t>(springs), "spring") +
-         " came under this number one after the other: the last one is left");
+    warn(Counted(static_cast<std::size_t>(springs), "spring") + " came in the place of " + member +
+         " one after the other: the last one is left");
 }
 
-/// Reports the load panels that keep their nodes: those of a set of elements, and those at nodes.
+/// The elements and panels of a set by node; for a set of nodes all that are there.
+std::map<int, std::set<int>> UsersByNode(CZelData const& model, Util::CSet const& set) {
+  std::map<int, std::set<int>> users;
+  for (int const n : set) {
+    if (set.TypeOf() == SelNode) {
+      auto const& attached = model.Node(n).AttachedEnt(SelElement);
+      users[n].insert(attached.begin(), attached.end());
+    } else if (auto const view = model.VariantElement(n)) {
+      for (int const node : view->Topology())
+        if (model.NodeExist(node)) users[node].insert(n);
+    }
+  }
+  return users;
+}
+
+/// Reports the load panels that keep a node which they share with others that are disconnected.
 void ReportPanels(CZelData const& model, Util::CSet const& set, CommandResult& result) {
   std::set<int> panels;
-  for (int const n : set) {
-    if (set.TypeOf() == SelElement && model.LoadPanelExist(n)) panels.insert(n);
-    if (set.TypeOf() != SelNode) continue;
-    for (int const e : model.Node(n).AttachedEnt(SelElement))
-      if (model.LoadPanelExist(e)) panels.insert(e);
+  for (auto const& [node, users] : UsersByNode(model, set)) {
+    if (users.size() < 2) continue;
+    std::copy_if(users.begin(), users.end(), std::inserter(panels, panels.end()),
+                 [&](int user) { return model.LoadPanelExist(user); });
   }
   for (int const n : panels)
     result.undone.push_back({"LoadPanel", n, "load panels are passed over"});
@@ -91,8 +114,10 @@ void ReportPanels(CZelData const& model, Util::CSet const& set, CommandResult& r
 
 void Disconnect(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
+  auto const partsAtNodes = KindOf(arguments.Text("--parts"));
+  if (kind == SelElement && partsAtNodes != kind) throw UsageError("--parts goes with --kind node");
   auto const set = SelectByOptions(model, kind, arguments, result);
-  auto const parts = kind == SelNode ? KindOf(arguments.Text("--parts")) : kind;
+  auto const parts = kind == SelNode ? partsAtNodes : kind;
   if (parts == SelElement) ReportPanels(model, set, result);
   CZelData const before(model);
   Util::CTopoSet items(kind);
@@ -142,8 +167,9 @@ void Chain(CZelData& model, Arguments const& arguments, CommandResult& result) {
   std::set<std::pair<int, int>> steps;
   for (std::size_t i = 1; i < chain.size(); ++i) steps.emplace(chain[i - 1], chain[i]);
   Numbers leftOut;
+  // A step stands for the lowest element between its nodes: one beside it is left out.
   for (int const n : lines)
-    if (!steps.contains({model.Elem(n).Topo(0), model.Elem(n).Topo(1)})) leftOut.push_back(n);
+    if (steps.erase({model.Elem(n).Topo(0), model.Elem(n).Topo(1)}) == 0) leftOut.push_back(n);
   for (int const n : leftOut) result.undone.push_back({"Elem", n, "it does not join on"});
   result.text = Counted(chain.size(), "node") + (chain.empty() ? "" : ":");
   for (int const n : chain) result.text += " " + std::to_string(n);
@@ -152,6 +178,51 @@ void Chain(CZelData& model, Arguments const& arguments, CommandResult& result) {
   result.result = std::make_shared<Json>(Json{
       {"nodes", Numbers(chain.begin(), chain.end())}, {"elements", lines}, {"leftOut", leftOut}});
   result.did = !chain.empty();
+}
+
+/// What an explosion makes before nodes are merged, counted up to kManyCopies.
+struct BlockCopies {
+  long long members = 0;
+  long long nodes = 0;
+};
+constexpr long long kManyCopies = 1'000'000'000'000'000;
+
+long long CappedTimes(long long a, long long b) {
+  return b != 0 && a > kManyCopies / b ? kManyCopies : std::min(a * b, kManyCopies);
+}
+long long CappedPlus(long long a, long long b) { return std::min(a + b, kManyCopies); }
+
+/// From the counts of the steps, without a list of the places.
+long long MostPlaces(Data::CReplica const& replica) {
+  long long places = 1;  // that of the original among them
+  for (auto const& step : replica.Steps()) places = CappedTimes(places, step.count + 1LL);
+  return places - 1;
+}
+
+BlockCopies BlockCopiesOf(CZelData const& model, Numbers const& blocks) {
+  BlockCopies copies;
+  for (int const n : blocks) {
+    auto const places = MostPlaces(model.Block(n).Replica());
+    for (int const member : model.Block(n).Members()) {
+      if (!model.MemberExist(member)) continue;
+      auto const nodes = model.Member(member).Topo().Nodes();
+      copies.members = CappedPlus(copies.members, places);
+      copies.nodes =
+          CappedPlus(copies.nodes, CappedTimes(places, static_cast<long long>(nodes.size())));
+    }
+  }
+  return copies;
+}
+
+/// Refuses more copies than are asked for, and more than there are numbers for.
+void RequireRoom(CZelData const& model, BlockCopies const& copies, bool yes) {
+  auto const text = "up to " + std::to_string(copies.members) + " members and " +
+                    std::to_string(copies.nodes) + " nodes would be made: ";
+  if (model.HighestMember() + copies.members > kHighestNumber ||
+      model.HighestNode() + copies.nodes > kHighestNumber)
+    throw Refusal(text + "numbers end at " + std::to_string(kHighestNumber));
+  if (copies.members > kMostCopies && !yes)
+    throw Refusal(text + "more than " + std::to_string(kMostCopies) + " members only with --yes");
 }
 
 void Explode(CZelData& model, Arguments const& arguments, CommandResult& result) {
@@ -168,6 +239,7 @@ void Explode(CZelData& model, Arguments const& arguments, CommandResult& result)
   }
   if (blocks.empty())
     result.warnings.push_back({"empty-selection", "", 0, "'" + text + "' selects no block"});
+  RequireRoom(model, BlockCopiesOf(model, blocks), arguments.Flag("--yes"));
   int const firstNew = model.HighestMember() + 1;
   Data::CEntList members(SelMember, CString());
   ExplodeBlocks(model, list, members);

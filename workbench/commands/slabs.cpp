@@ -1,6 +1,7 @@
 #include "workbench/commands/slabs.h"
 
 #include <array>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -40,7 +41,8 @@ constexpr std::array kConnectSlabOptions{
         "which slab elements at the end of a column are tied: all of them, those within a quarter "
         "of the area of the box around its section, or those within a radius"},
     Option{"--radius", "M", ValueKind::Number, "0",
-           "for --mode radius: greatest distance in m from the column to the centre of an element",
+           "for --mode radius, above 0: greatest distance in m from the column to the centre of an "
+           "element",
            0},
     Option{"--overwrite", "", ValueKind::Flag, "",
            "treat ends that are in a rigid constraint too, and replace the one that they lead"}};
@@ -49,41 +51,66 @@ constexpr std::array kMergedRigidsOptions{
     Option{"--stage", "N", ValueKind::Integer, "0",
            "number of the analysis stage, 0 for the model without stages", 0}};
 
-/// The nodes that lead a rigid constraint or are held by one.
-std::set<int> RigidNodes(CZelData const& model) {
-  std::set<int> nodes;
-  for (auto const& rigid : model.Rigid()) {
-    nodes.insert(rigid.PrimaryNode());
-    for (int const node : Util::Item(rigid.ConstrainedNodes(), model)) nodes.insert(node);
-  }
-  return nodes;
+/// The rigid constraints that came or changed since, by the node that leads them.
+std::map<int, int> WrittenByPrimary(CZelData const& before, CZelData const& after) {
+  std::map<int, int> written;
+  for (int n = 1; n <= after.HighestRigid(); ++n)
+    if (n > before.HighestRigid() || !(after.Rigid(n) == before.Rigid(n)))
+      written.emplace(after.Rigid(n).PrimaryNode(), n);
+  return written;
 }
 
-/// The columns with an end that the tool passes over, since its node is in a rigid constraint.
-void ReportHeldEnds(CZelData const& model, Util::CSet const& set, CommandResult& result) {
-  auto const held = RigidNodes(model);
-  for (int const n : set) {
-    if (!model.ElemExist(n) || !model.Elem(n).IsBeam() || !model.ElemIsVertical(n)) continue;
-    for (int const node : {model.Elem(n).Topo(0), model.Elem(n).Topo(1)})
-      if (held.contains(node))
-        result.undone.push_back(
-            {"Elem", n, "node " + std::to_string(node) + " is in a rigid constraint already"});
+/// The columns with an end that the tool passed over, since its node is in a rigid constraint; but
+/// for nodes that this run gave one of their own, such as the head of the column below.
+void ReportHeldEnds(CConnectSlab const& tool, std::map<int, int> const& written,
+                    CommandResult& result) {
+  std::set<std::pair<int, int>> ends;
+  for (auto const& [column, node] : tool.PassedOver())
+    if (!written.contains(node)) ends.emplace(column, node);
+  for (auto const& [column, node] : ends)
+    result.undone.push_back(
+        {"Elem", column, "node " + std::to_string(node) + " is in a rigid constraint already"});
+}
+
+/// Warns of constraints of this run whose own node another constraint holds: many solvers refuse a
+/// node that leads and is held at once.
+void WarnOfHeldPrimaries(CZelData const& model, std::map<int, int> const& written,
+                         CommandResult& result) {
+  std::map<int, int> holders;  // by node, the first one
+  for (int n = 1; n <= model.HighestRigid(); ++n) {
+    auto const& rigid = model.Rigid(n);
+    for (int const node : Util::Item(rigid.ConstrainedNodes(), model))
+      if (node != rigid.PrimaryNode() && written.contains(node)) holders.try_emplace(node, n);
+  }
+  for (auto const& [node, holder] : holders) {
+    int const number = written.at(node);
+    result.warnings.push_back(
+        {"primary-node-held", "Rigid", number,
+         "rigid constraint " + std::to_string(number) + ": node " + std::to_string(node) +
+             ", which leads it, is held by rigid constraint " + std::to_string(holder) + " too"});
+    result.lookAt = true;
   }
 }
 
 void ConnectSlab(CZelData& model, Arguments const& arguments, CommandResult& result) {
-  auto const set = SelectByOptions(model, SelElement, arguments, result);
   auto const mode = ModeNamed(arguments.Text("--mode"));
-  bool const overwrite = arguments.Flag("--overwrite");
-  if (!overwrite) ReportHeldEnds(model, set, result);
+  double const radius = arguments.Number("--radius");
+  if (mode == ConnectMode::WithinRadius && radius == 0)
+    throw UsageError("--radius: give a distance above 0 for --mode radius");
+  if (mode != ConnectMode::WithinRadius && radius != 0)
+    throw UsageError("--radius goes with --mode radius");
+  auto const set = SelectByOptions(model, SelElement, arguments, result);
+  CZelData const before(model);
   CConnectSlab tool(model);
   tool.SetSet(set);
   tool.SetMode(mode);
-  tool.SetRadius(arguments.Number("--radius"));
-  tool.SetOverwrite(overwrite);
+  tool.SetRadius(radius);
+  tool.SetOverwrite(arguments.Flag("--overwrite"));
   result.did = tool.Do();
-  if (mode == ConnectMode::WithinRadius)
-    result.tolerances.push_back({"radius", arguments.Number("--radius"), "m"});
+  auto const written = WrittenByPrimary(before, model);
+  ReportHeldEnds(tool, written, result);
+  WarnOfHeldPrimaries(model, written, result);
+  if (mode == ConnectMode::WithinRadius) result.tolerances.push_back({"radius", radius, "m"});
   result.result = std::make_shared<Json>(
       Json{{"ends", tool.NumItem(1)}, {"connected", tool.NumItem(2)}, {"rigids", tool.NumItem(3)}});
 }
@@ -107,7 +134,8 @@ void WarnOfLostPrimary(CZelData const& before, CZelData const& after, int number
       Util::IsItemIncluded(rigid.ConstrainedNodes(), {SelNode, former}, after))
     return;
   result.warnings.push_back({"primary-node-lost", "Rigid", number,
-                             "node " + std::to_string(former) +
+                             "rigid constraint " + std::to_string(number) + ": node " +
+                                 std::to_string(former) +
                                  " leads it no more and is not among its constrained nodes"});
   result.lookAt = true;
 }

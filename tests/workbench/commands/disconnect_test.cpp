@@ -65,6 +65,30 @@ TEST_F(DisconnectCommand, DisconnectsListedElementsAndWarnsOfTheMassThatStandsTw
   ASSERT_EQ(Warnings().size(), 1U);
   EXPECT_EQ(Warnings().at(0).at("code"), "copied-property");
   EXPECT_EQ(Warnings().at(0).at("number"), 9);
+  EXPECT_EQ(
+      RunTarvex({"disconnect", Path("in.json"), "--list", "2 3", "--dry-run"}).err,
+      "warning: node 9: the spring, mass or damper of the node that it was parted from stands "
+      "at both\n");
+}
+
+TEST_F(DisconnectCommand, ReportsPanelsThatKeepANodeOfOthersOnly) {
+  // Panel 13 shares nodes with beams 1 to 3, panel 14 shares none.
+  auto text = StarModel();
+  auto const panel = text.find(R"({"n": 13)");
+  text.insert(panel, R"({"n": 14, "topology": [6, 7, 8]}, )");
+  auto const expected = Json::parse(R"([{"table":"LoadPanel","number":13,
+      "why":"load panels are passed over"}])");
+  EXPECT_EQ(RunOn({"disconnect", "--list", "1 to 3 13 14"}, 1, text).at("undone"), expected);
+  EXPECT_EQ(RunOn({"disconnect", "--list", "14"}, 0, text).at("undone"), Json::array());
+  EXPECT_EQ(RunOn({"disconnect", "--list", "1 8", "--kind", "node"}, 1, text).at("undone").size(),
+            2U);  // node 8 is of element 11 and panel 14
+}
+
+TEST_F(DisconnectCommand, RefusesPartsThatNothingIsDoneWith) {
+  auto const model = Write("in.json", StarModel());
+  auto const result = RunTarvex({"disconnect", model, "--dry-run", "--parts", "member"});
+  EXPECT_EQ(result.exit, 2);
+  EXPECT_EQ(result.err, "tarvex: --parts goes with --kind node\n");
 }
 
 TEST_F(DisconnectCommand, DisconnectsAllElementsAtANodeWithJointsAndSprings) {
@@ -94,8 +118,20 @@ TEST_F(DisconnectCommand, WarnsOfMembersThatSpringsTakeTheNumberOf) {
   EXPECT_EQ(warnings.at(2).at("code"), "member-replaced");
   EXPECT_EQ(warnings.at(2).at("number"), 14);
   EXPECT_EQ(warnings.at(2).at("text"),
-            "2 springs came under this number one after the other: the last one is left");
+            "2 springs came in the place of member 14 one after the other: the last one is left");
   EXPECT_EQ(Topology("Member", 14), "1 10");
+}
+
+TEST_F(DisconnectCommand, WarnsOfAMemberThatASpringReplaces) {
+  auto text = StarModel();
+  text.replace(text.find(R"({"n": 6, "topology": "5 6 7")"), 8, R"({"n": 14,)");
+  RunOn({"disconnect", "--kind", "member", "--list", "1 2", "--spring"}, 1, text);
+  auto const warnings = Warnings();
+  ASSERT_EQ(warnings.size(), 2U);  // the mass
+  EXPECT_EQ(warnings.at(1).at("code"), "member-replaced");
+  EXPECT_EQ(warnings.at(1).at("number"), 14);
+  EXPECT_EQ(warnings.at(1).at("text"), "member 14 was replaced by a spring");
+  EXPECT_EQ(Topology("Member", 14), "1 9");
 }
 
 TEST_F(DisconnectCommand, HasNothingToDoForOneElement) {
@@ -115,6 +151,16 @@ TEST_F(DisconnectCommand, ReleasesTheEdgesOfFlaggedMembers) {
             "1 2D member of the selection not flagged for the release of edges");
 }
 
+TEST_F(DisconnectCommand, WarnsOfTheMassThatAReleasedEdgeHasTwice) {
+  auto text = StarModel();
+  text.replace(text.find(R"([0, 9, 0])"), 9, R"([0, 9, 0], "massProperty": 1)");
+  RunOn({"release-edges", "--list", "5"}, 1, text);
+  ASSERT_EQ(Warnings().size(), 1U);
+  EXPECT_EQ(Warnings().at(0).at("code"), "copied-property");
+  EXPECT_EQ(Warnings().at(0).at("number"), 9);
+  EXPECT_EQ(Record("Node", 9).at("massProperty"), 1);
+}
+
 TEST_F(DisconnectCommand, ReleasesNothingOfMembersWithoutFlag) {
   auto const data = RunOn({"release-edges", "--list", "1 6"}, 0);
   EXPECT_EQ(data.at("did"), false);
@@ -130,6 +176,96 @@ TEST_F(DisconnectCommand, TellsAChainAndWhatDoesNotJoinOn) {
   auto const words = RunTarvex({"chain", model, "--list", "1 2"});
   EXPECT_EQ(words.exit, 0);
   EXPECT_EQ(words.out, "3 nodes: 2 1 3\n");
+}
+
+TEST_F(DisconnectCommand, TellsElementsBesideThoseOfAChain) {
+  auto const leftOut = [&](char const* elements) {
+    auto const result = RunTarvex({"chain", Write("in.json", Testing::kHeader + R"(,
+"Node": [{"n": 1, "position": [0, 0, 0]}, {"n": 2, "position": [1, 0, 0]},
+{"n": 3, "position": [1, 1, 0]}],
+"Elem": [)" + elements + "]}\n"),
+                                   "--json"});
+    EXPECT_EQ(result.exit, 1) << result.out;
+    return result.Json().at("data");
+  };
+  // Element 2 stands on 1.
+  auto const line = leftOut(
+      R"({"n": 1, "type": 2, "topology": [1, 2]}, {"n": 2, "type": 2, "topology": [1, 2]},
+         {"n": 3, "type": 2, "topology": [2, 3]})");
+  EXPECT_EQ(line, Json::parse(R"({"nodes":[1,2,3],"elements":[1,2,3],"leftOut":[2]})"));
+  // A closed chain with a limit of five nodes runs over element 1 twice, and never over 2.
+  auto const ring = leftOut(
+      R"({"n": 1, "type": 2, "topology": [1, 2]}, {"n": 2, "type": 2, "topology": [1, 2]},
+         {"n": 3, "type": 2, "topology": [2, 3]}, {"n": 4, "type": 2, "topology": [3, 1]})");
+  EXPECT_EQ(ring, Json::parse(R"({"nodes":[1,2,3,1,2],"elements":[1,2,3,4],"leftOut":[2]})"));
+}
+
+/// The model with the steps of the block of member 1.
+std::string StarWithSteps(std::string const& steps) {
+  auto text = StarModel();
+  std::string const old = R"({"count": 1, "offset": [0, 5, 0]})";
+  return text.replace(text.find(old), old.size(), steps);
+}
+
+TEST_F(DisconnectCommand, MakesMoreThanTenThousandMembersOnlyWhereTold) {
+  auto const run = [&](std::string const& steps, std::vector<std::string> more = {}) {
+    std::vector<std::string> words{"explode-blocks", Write("in.json", StarWithSteps(steps)),
+                                   "--dry-run"};
+    words.insert(words.end(), more.begin(), more.end());
+    return RunTarvex(words);
+  };
+  // 101 * 100 - 1 = 10099 places beside the original.
+  std::string const many =
+      R"({"count": 100, "offset": [0, 50, 0]}, {"count": 99, "offset": [0, 0, 50]})";
+  auto const refused = run(many);
+  EXPECT_EQ(refused.exit, 3);
+  EXPECT_EQ(refused.err,
+            "tarvex: up to 10099 members and 20198 nodes would be made: more than 10000 members "
+            "only with --yes\n");
+  EXPECT_EQ(run(many, {"--yes"}).exit, 0);
+  EXPECT_EQ(run(R"({"count": 10000, "offset": [0, 50, 0]})").exit, 0);
+  EXPECT_EQ(run(R"({"count": 10001, "offset": [0, 50, 0]})").exit, 3);
+}
+
+TEST_F(DisconnectCommand, RefusesMoreMembersThanThereAreNumbersWhateverIsTold) {
+  std::string const step = R"({"count": 1000000000, "offset": [0, 5, 0]})";
+  for (auto const& [steps, members, nodes] :
+       {std::tuple(step, "1000000000", "2000000000"),
+        std::tuple(step + "," + step + "," + step, "999999999999999", "1000000000000000")}) {
+    auto const model = Write("in.json", StarWithSteps(steps));
+    auto const result = RunTarvex({"explode-blocks", model, "--dry-run", "--yes"});
+    EXPECT_EQ(result.exit, 3);
+    EXPECT_EQ(result.err, std::string("tarvex: up to ") + members + " members and " + nodes +
+                              " nodes would be made: numbers end at 100000000\n");
+  }
+}
+
+TEST_F(DisconnectCommand, TellsTheMembersWhoseOriginalHasElements) {
+  auto text = StarModel();
+  text.replace(text.find(R"("topology": "2 1")"), 17, R"("topology": "2 1", "children": [[0, 1]])");
+  auto const data = RunOn({"explode-blocks"}, 0, text);
+  EXPECT_EQ(data.at("result"), Json::parse(R"({"blocks":[1],"newMembers":[7],"toMesh":"7"})"));
+}
+
+TEST_F(DisconnectCommand, WorksOnTheExample) {
+  std::string const model = TARVEX_SOURCE_DIR "/examples/six-storey/six-storey.json";
+  // Column member 1 is made of elements 1, 2 and so on, upwards.
+  auto const chain = RunTarvex({"chain", model, "--list", "1 2", "--json"});
+  EXPECT_EQ(chain.exit, 0) << chain.err;
+  EXPECT_EQ(chain.Json().at("data").at("nodes"), Json({257, 467, 551}));
+  auto const parted = RunTarvex(
+      {"disconnect", model, "--list", "1 2", "--joint", "-o", Path("out.json"), "--json"});
+  EXPECT_EQ(parted.exit, 0) << parted.err;
+  EXPECT_EQ(parted.Json().at("data").at("result"),
+            Json::parse(R"({"newNodes":1,"joints":1,"springs":0})"));
+  EXPECT_EQ(Topology("Elem", 1), Json({257, 467}));
+  EXPECT_EQ(Topology("Elem", 2), Json({2801, 551}));
+  EXPECT_EQ(RunTarvex({"check", Path("out.json")}).exit, RunTarvex({"check", model}).exit);
+  // No member is flagged, and there is no block.
+  EXPECT_EQ(RunTarvex({"release-edges", model, "--dry-run", "--json"}).Json().at("data").at("did"),
+            false);
+  EXPECT_EQ(RunTarvex({"explode-blocks", model, "--dry-run", "--json"}).Json().at("data").at("did"),
+            false);
 }
 
 TEST_F(DisconnectCommand, ExplodesBlocksAndReportsTheMissingMember) {
