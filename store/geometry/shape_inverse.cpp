@@ -197,7 +197,7 @@ bool FindNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<doub
 bool HoldsNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<double> const& natural,
                   double tol) noexcept {
   auto const* const kind = FindShapeKind(space, static_cast<int>(nodes.size()));
-  if (!kind) return false;
+  if (!kind || !std::isfinite(natural.x + natural.y + natural.z)) return false;
   return ShapeSearch(*kind, nodes, Interpolate(space, nodes, natural)).IsWithin(natural, tol);
 }
 

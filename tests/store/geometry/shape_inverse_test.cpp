@@ -246,6 +246,7 @@ TEST(ShapeInverse, HoldsTheNaturalCoordinatesThatItFinds) {
   EXPECT_GT(outside, 20);
   EXPECT_FALSE(plate.HoldsRS({2, 0}, 0.05));
   EXPECT_FALSE(plate.HoldsRS({kNaN, 0}, 0.05));
+  EXPECT_FALSE(plate.HoldsRS({0, kNaN}, 0.05));
   EXPECT_FALSE(solid.HoldsRS({0.1, 0.1}, 1));
 }
 
