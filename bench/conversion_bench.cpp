@@ -1,5 +1,6 @@
-// Workloads of the conversion on a plate of quadrilaterals: ToQuadratic, ToLinear, ToTriangles, and
-// ToQuadraticShuffled on nodes in no order with others beside them.
+// Workloads of the conversion on a plate of quadrilaterals: ToQuadratic, ToLinear, ToTriangles,
+// ToQuadraticShuffled on nodes in no order with others beside them, and ToTrianglesLoaded with a
+// pressure by corner on each element and a uniform one on a list of them all.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 #include <random>
 
 #include "bench/plate.h"
+#include "store/record/ent_list.h"
+#include "store/record/face_loads.h"
 #include "store/record/node.h"
 #include "tarvex/conversion.h"
 
@@ -26,7 +29,7 @@ void Convert(CZelData& model, Util::CSet const& set) {
   benchmark::DoNotOptimize(tool.Do());
 }
 
-/// The plate on nodes in a random order, with as many nodes a kilometre away that are on nothing:
+/// The plate on nodes in a random order, with 1000 nodes a kilometre away that are on nothing:
 /// new nodes are compared with them.
 void MakeShuffledPlate(CZelData& model, int side) {
   std::vector<int> numbers(static_cast<std::size_t>((side + 1) * (side + 1)));
@@ -99,10 +102,36 @@ void ToTriangles(benchmark::State& state) {
   });
 }
 
+void MakeLoadedPlate(CZelData& model, int side) {
+  MakePlate(model, side);
+  std::vector<int> all;
+  Data::CFaceLoad load;
+  load.SetLoadCase(1);
+  load.SetDirection(Direction::Z);
+  for (int i = 0; i < 4; ++i) load.SetValue(i, -5);
+  load.SetType(Data::CFaceLoad::Load2D::PerCorner);
+  for (int n = 1; n <= model.HighestElem(); ++n) {
+    load.SetLoadedEntities(Data::CEntList(SelElement, std::vector<int>{n}));
+    model.SetFaceLoad(n, load);
+    all.push_back(n);
+  }
+  load.SetType(Data::CFaceLoad::Load2D::Uniform);
+  load.SetLoadedEntities(Data::CEntList(SelElement, all));
+  model.SetFaceLoad(model.HighestFaceLoad() + 1, load);
+}
+
+void ToTrianglesLoaded(benchmark::State& state) {
+  Run<CMod2DToTriangle>(state, &MakeLoadedPlate, [](CZelData const& model, int side) {
+    Require(model.HighestFaceLoad(), 2LL * side * side + 1, "loads");
+    Require(model.FaceLoad(1).LoadedEntities().NumWord(), 2LL * side * side, "loaded elements");
+  });
+}
+
 BENCHMARK(ToQuadratic)->Apply(Sizes);
 BENCHMARK(ToQuadraticShuffled)->Apply(Sizes);
 BENCHMARK(ToLinear)->Apply(Sizes);
 BENCHMARK(ToTriangles)->Apply(Sizes);
+BENCHMARK(ToTrianglesLoaded)->Apply(Sizes);
 
 }  // namespace
 }  // namespace Tarvex::Bench

@@ -26,7 +26,7 @@ std::array<int, 2 * kFace> PlacesFrom(int corner) {
 
 bool RefineBrickAtCorner(CZelData& model, int element, int corner, double ratio, double tolerance,
                          CString const& sid) {
-  RefinedElement const brick(model, element, SpaceType::Solid, sid);
+  RefinedElement const brick(model, element, SpaceType::Solid, 8, sid);
   auto const places = PlacesFrom(corner);
   // Indices into the places.
   constexpr std::size_t a0 = 0, a1 = 1, a2 = 2, a3 = 3, b0 = 4, b1 = 5, b2 = 6, b3 = 7;

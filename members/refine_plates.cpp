@@ -16,7 +16,7 @@ constexpr double kMiddle = 0.5;
 
 bool RefineQuadAtCorner(CZelData& model, int element, int corner, double ratio, double tolerance,
                         CString const& sid) {
-  RefinedElement const quad(model, element, SpaceType::Surface, sid);
+  RefinedElement const quad(model, element, SpaceType::Surface, 4, sid);
   auto const old = [&](int place) { return quad.Old().Topo(place); };
   int const c = corner;
   int const c1 = (c + 1) % 4;
@@ -54,7 +54,7 @@ bool RefineQuadAtCorner(CZelData& model, int element, int corner, double ratio, 
 
 bool RefineTriAtCorner(CZelData& model, int element, int corner, double tolerance,
                        CString const& sid) {
-  RefinedElement const triangle(model, element, SpaceType::Surface, sid);
+  RefinedElement const triangle(model, element, SpaceType::Surface, 3, sid);
   auto const old = [&](int place) { return triangle.Old().Topo(place); };
   int const c = corner;
   int const c1 = (c + 1) % 3;

@@ -17,11 +17,13 @@ namespace Tarvex {
 class RefinedElement {
  public:
   /// Throws std::invalid_argument "invalid number of values for 2D element" (3D element) for an
-  /// element whose topology is not that of its type, or whose type is not of the space.
-  RefinedElement(CZelData& model, int element, SpaceType space, CString const& sid)
+  /// element whose topology is not that of its type, or whose type is not of the space or has
+  /// another number of corners.
+  RefinedElement(CZelData& model, int element, SpaceType space, int corners, CString const& sid)
       : m_model(model), m_old(model.Elem(element)), m_space(space), m_sid(sid) {
-    bool const fits = m_old.Shape().dimension == static_cast<int>(space) &&
-                      m_old.NumTopo() == m_old.Shape().nodes;
+    auto const& shape = m_old.Shape();
+    bool const fits = shape.dimension == static_cast<int>(space) && shape.corners == corners &&
+                      m_old.NumTopo() == shape.nodes;
     m_natural = Util::ShapeKindOf(space, fits ? m_old.NumTopo() : 0).natural;
     for (int const node : m_old.Topology()) m_positions.push_back(model.NodeCoor(node));
   }

@@ -1,6 +1,6 @@
 #include "tarvex/data_mgr.h"
 
-#include "store/record/ent_list.h"
+#include "topology/load_table.h"
 
 namespace Tarvex {
 
@@ -9,10 +9,6 @@ CDataMgr::CDataMgr(CDataMgr const&) = default;
 CDataMgr::CDataMgr(CDataMgr&&) noexcept = default;
 CDataMgr::~CDataMgr() = default;
 
-bool CDataMgr::IsIndirectList(Data::CEntList const& list) const {
-  int count = 0;
-  Util::CSet set;
-  return !(list.CheckSimpleList(count, set) && count == list.NumWord());
-}
+bool CDataMgr::IsIndirectList(Data::CEntList const& list) const { return !IsPlainList(list); }
 
 }  // namespace Tarvex

@@ -26,13 +26,10 @@ struct LoadTable {
   static void Write(CZelData& model, int n, Record const& load) {
     std::invoke(write, model, n, load, SidMode::Keep);
   }
-  static void Delete(CZelData& model, int n) { std::invoke(remove, model, n, 1); }
-
-  /// Whether a load is on an element.
-  static bool IsOn(CZelData const& model, int n, int element) {
-    auto const& list = Read(model, n).LoadedEntities();
-    return Util::IsItemIncluded(list, {SelElement, element}, model, -1, false);
+  static void Delete(CZelData& model, int first, int count = 1) {
+    std::invoke(remove, model, first, count);
   }
+
   /// Appends a load, on one element and nothing else.
   static void AppendOn(CZelData& model, int element, Record load) {
     Data::CEntList list(SelElement, L"");
@@ -81,6 +78,13 @@ using BodyFaceLoads =
 using BodyThermalLoads =
     LoadTable<Data::CBodyThermalLoad, &CZelData::BodyThermalLoad, &CZelData::HighestBodyThermalLoad,
               &CZelData::SetBodyThermalLoad, &CZelData::DeleteBodyThermalLoad>;
+
+/// Whether a list is plain numbers and nothing else, so that it can be changed number by number.
+inline bool IsPlainList(Data::CEntList const& list) {
+  int count = 0;
+  Util::CSet set;
+  return list.CheckSimpleList(count, set) && count == list.NumWord();
+}
 
 /// Whether the first so many values of a load are finite.
 template <class Load>

@@ -37,7 +37,8 @@ bool IsFiniteBodyLoad(CBodyFaceLoad const& load) {
   return HasFiniteValues(load, load.TypeOf() == BodyType::PerCorner ? kFaceCorners : 1);
 }
 
-void MapFacePressure(CZelData& model, CBodyFaceLoad load, int parent, int sub) {
+template <class Loads>
+void MapFacePressure(CZelData const& model, Loads& loads, CBodyFaceLoad load, int parent, int sub) {
   int const face = load.Face();
   auto const frame = model.ElemDC(parent, EntAt::Ends, face);
   std::vector<Vec3<double>> corners;
@@ -52,7 +53,23 @@ void MapFacePressure(CZelData& model, CBodyFaceLoad load, int parent, int sub) {
   int place = 0;
   for (auto const& at : LocalNodes(model, sub, kFaceCorners, frame))
     load.SetValue(place++, CornerFit::At(at, coefficients));
-  if (HasFiniteValues(load, kFaceCorners)) BodyFaceLoads::AppendOn(model, sub, load);
+  if (HasFiniteValues(load, kFaceCorners)) loads.AppendOn(sub, load);
+}
+
+template <class Loads>
+void MapNodeTemperatures(CZelData const& model, Loads& loads, Data::CBodyThermalLoad load,
+                         int parent, int sub) {
+  auto const frame = model.ElemDC(parent, EntAt::Ends, -1);
+  CornerFit const fit(LocalNodes(model, parent, kBrickNodes, frame));
+  std::vector<double> values;
+  for (int i = 0; i < kBrickNodes; ++i) values.push_back(load.Value(i));
+  auto const coefficients = fit.Coefficients(values);
+  // The nodes beyond these keep the values of the parent.
+  int const count = std::min(NumCorner(model.Elem(sub)), kBrickNodes);
+  int place = 0;
+  for (auto const& at : LocalNodes(model, sub, count, frame))
+    load.SetValue(place++, CornerFit::At(at, coefficients));
+  if (HasFiniteValues(load, kBrickNodes)) loads.AppendOn(sub, load);
 }
 
 }  // namespace
@@ -82,80 +99,75 @@ bool CDataMgr::LiesOnFace(int parent, int sub, int face) const {
 }
 
 bool CDataMgr::Map3dFaceLoading(NumberLists const& pieces) const {
-  return MapByPair(
-      m_model, pieces, [](int, Numbers const&) { return true; },
-      [&](int parent, int sub) { return Map3dFaceLoading(parent, sub); },
-      [&](int parent) { UnMap3dFaceLoading(parent); });
+  return MapByPair<BodyFaceLoads>(
+      m_model, pieces, [](int) { return true; },
+      [&](auto& loads, int parent, int sub) { return Map3dFaceLoading(loads, parent, sub); });
 }
 
 bool CDataMgr::Map3dFaceLoading(int parent, int sub) const {
+  return MapOfParent<BodyFaceLoads>(
+      m_model, parent, [&](auto& loads) { return Map3dFaceLoading(loads, parent, sub); });
+}
+
+template <class Loads>
+bool CDataMgr::Map3dFaceLoading(Loads& loads, int parent, int sub) const {
+  bool all = !loads.IsOnIndirect(parent);
+  auto const numbers = loads.On(parent);
+  if (numbers.empty()) return all;
   bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
-  bool all = true;
-  int const highest = m_model.HighestBodyFaceLoad();
-  for (int n = 1; n <= highest; ++n) {
-    if (!BodyFaceLoads::IsOn(m_model, n, parent)) continue;
+  for (int const n : numbers) {
     auto const load = m_model.BodyFaceLoad(n);
-    if (IsIndirectList(load.LoadedEntities()) || !finite || !IsFiniteBodyLoad(load)) {
+    if (!finite || !IsFiniteBodyLoad(load)) {
       all = false;
       continue;
     }
     if (!LiesOnFace(parent, sub, load.Face())) continue;
     if (load.TypeOf() == BodyType::Uniform)
-      BodyFaceLoads::AddTo(m_model, n, sub);
+      loads.AddTo(n, sub);
     else if (load.TypeOf() == BodyType::PerCorner)
-      MapFacePressure(m_model, load, parent, sub);
+      MapFacePressure(m_model, loads, load, parent, sub);
   }
   return all;
 }
 
 void CDataMgr::UnMap3dFaceLoading(int parent) const {
-  TakeElementOff<BodyFaceLoads>(m_model, parent,
-                                [&](auto const& list) { return IsIndirectList(list); });
+  TakeElementOff<BodyFaceLoads>(m_model, parent);
 }
 
 bool CDataMgr::MapBodyThermalLoadLoading(NumberLists const& pieces) const {
-  return MapByPair(
-      m_model, pieces, [](int, Numbers const&) { return true; },
-      [&](int parent, int sub) { return MapBodyThermalLoadLoading(parent, sub); },
-      [&](int parent) { UnMapBodyThermalLoadLoading(parent); });
+  return MapByPair<BodyThermalLoads>(
+      m_model, pieces, [](int) { return true; },
+      [&](auto& loads, int parent, int sub) {
+        return MapBodyThermalLoadLoading(loads, parent, sub);
+      });
 }
 
 bool CDataMgr::MapBodyThermalLoadLoading(int parent, int sub) const {
+  return MapOfParent<BodyThermalLoads>(
+      m_model, parent, [&](auto& loads) { return MapBodyThermalLoadLoading(loads, parent, sub); });
+}
+
+template <class Loads>
+bool CDataMgr::MapBodyThermalLoadLoading(Loads& loads, int parent, int sub) const {
+  bool all = !loads.IsOnIndirect(parent);
+  auto const numbers = loads.On(parent);
+  if (numbers.empty()) return all;
   bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
-  bool all = true;
-  int const highest = m_model.HighestBodyThermalLoad();
-  for (int n = 1; n <= highest; ++n) {
-    if (!BodyThermalLoads::IsOn(m_model, n, parent)) continue;
+  for (int const n : numbers) {
     auto const load = m_model.BodyThermalLoad(n);
     bool const byNode = load.TypeOf() == SolidThermal::PerNode;
-    if (IsIndirectList(load.LoadedEntities()) || !finite ||
-        !HasFiniteValues(load, byNode ? kBrickNodes : 1))
+    if (!finite || !HasFiniteValues(load, byNode ? kBrickNodes : 1))
       all = false;
     else if (load.TypeOf() == SolidThermal::Uniform)
-      BodyThermalLoads::AddTo(m_model, n, sub);
+      loads.AddTo(n, sub);
     else if (byNode && m_model.Elem(parent).NumTopo() == kBrickNodes)
-      MapNodeTemperatures(load, parent, sub);  // the polynomial has eight terms
+      MapNodeTemperatures(m_model, loads, load, parent, sub);  // the polynomial has eight terms
   }
   return all;
 }
 
-void CDataMgr::MapNodeTemperatures(Data::CBodyThermalLoad load, int parent, int sub) const {
-  auto const frame = m_model.ElemDC(parent, EntAt::Ends, -1);
-  CornerFit const fit(LocalNodes(m_model, parent, kBrickNodes, frame));
-  std::vector<double> values;
-  for (int i = 0; i < kBrickNodes; ++i) values.push_back(load.Value(i));
-  auto const coefficients = fit.Coefficients(values);
-  // The nodes beyond these keep the values of the parent.
-  int const count = std::min(NumCorner(m_model.Elem(sub)), kBrickNodes);
-  int place = 0;
-  for (auto const& at : LocalNodes(m_model, sub, count, frame))
-    load.SetValue(place++, CornerFit::At(at, coefficients));
-  if (HasFiniteValues(load, kBrickNodes)) BodyThermalLoads::AppendOn(m_model, sub, load);
-}
-
 void CDataMgr::UnMapBodyThermalLoadLoading(int parent) const {
-  TakeElementOff<BodyThermalLoads>(m_model, parent,
-                                   [&](auto const& list) { return IsIndirectList(list); });
+  TakeElementOff<BodyThermalLoads>(m_model, parent);
 }
 
 bool CDataMgr::Map3DLoading(NumberLists const& pieces) const {

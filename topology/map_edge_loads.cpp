@@ -25,19 +25,16 @@ bool AnySide(CZelData const& model, int element, Visit&& visit) {
 }  // namespace
 
 bool CDataMgr::MapEdgeLoading(NumberLists const& pieces) const {
-  CUndoStep step(m_model, false);
   auto const loaded = LoadedNumbers<EdgeLoads>(m_model, false);
   if (loaded.empty()) return true;
-  bool all = true;
-  for (auto const& [parent, subs] : pieces) {
-    if (!loaded.contains(parent)) continue;
-    BuildEdgeChains(parent, subs);
-    for (int const sub : subs)
-      if (!MapEdgeLoading(parent, sub)) all = false;
-    UnMapEdgeLoading(parent);
-  }
-  step.Accept();
-  return all;
+  return MapByPair<EdgeLoads>(
+      m_model, pieces,
+      [&](int parent) {
+        bool const wanted = loaded.contains(parent);
+        if (wanted) BuildEdgeChains(parent, pieces.at(parent));
+        return wanted;
+      },
+      [&](auto& loads, int parent, int sub) { return MapEdgeLoading(loads, parent, sub); });
 }
 
 void CDataMgr::BuildEdgeChains(int parent, Numbers const& subs) const {
@@ -123,13 +120,19 @@ int CDataMgr::ElemIncludedOnEdge(int sub, int edge, double& start, double& end) 
 }
 
 bool CDataMgr::MapEdgeLoading(int parent, int sub) const {
-  bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
-  bool all = true;
-  int const highest = m_model.HighestEdgeLoad();
-  for (int n = 1; n <= highest; ++n) {
-    if (!EdgeLoads::IsOn(m_model, n, parent)) continue;
+  return MapOfParent<EdgeLoads>(m_model, parent,
+                                [&](auto& loads) { return MapEdgeLoading(loads, parent, sub); });
+}
+
+template <class Loads>
+bool CDataMgr::MapEdgeLoading(Loads& loads, int parent, int sub) const {
+  bool all = !loads.IsOnIndirect(parent);
+  auto const numbers = loads.On(parent);
+  bool const finite =
+      numbers.empty() || (HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub));
+  for (int const n : numbers) {
     auto load = m_model.EdgeLoad(n);
-    if (IsIndirectList(load.LoadedEntities()) || !finite || !HasFiniteValues(load, 2)) {
+    if (!finite || !HasFiniteValues(load, 2)) {
       all = false;
       continue;
     }
@@ -142,14 +145,11 @@ bool CDataMgr::MapEdgeLoading(int parent, int sub) const {
     load.SetEdge(edge);
     load.SetValue(0, first + rise * start);
     load.SetValue(1, first + rise * end);
-    if (HasFiniteValues(load, 2)) EdgeLoads::AppendOn(m_model, sub, load);
+    if (HasFiniteValues(load, 2)) loads.AppendOn(sub, load);
   }
   return all;
 }
 
-void CDataMgr::UnMapEdgeLoading(int parent) const {
-  TakeElementOff<EdgeLoads>(m_model, parent,
-                            [&](auto const& list) { return IsIndirectList(list); });
-}
+void CDataMgr::UnMapEdgeLoading(int parent) const { TakeElementOff<EdgeLoads>(m_model, parent); }
 
 }  // namespace Tarvex

@@ -45,7 +45,8 @@ std::vector<double> ValuesFrom(Load const& load, int first, int step, int count)
   return values;
 }
 
-void MapPressure(CZelData& model, CFaceLoad load, int parent, int sub) {
+template <class Loads>
+void MapPressure(CZelData const& model, Loads& loads, CFaceLoad load, int parent, int sub) {
   auto const frame = model.ElemDC(parent, EntAt::Ends, -1);
   int const corners = NumCorner(model.Elem(parent));
   if (corners != 3 && corners != 4) return;
@@ -56,122 +57,137 @@ void MapPressure(CZelData& model, CFaceLoad load, int parent, int sub) {
   int place = 0;
   for (auto const& at : LocalNodes(model, sub, CornersWithValues(model, sub), frame))
     load.SetValue(place++, CornerFit::At(at, coefficients));
-  if (HasFiniteValues(load, kMostCorners)) FaceLoads::AppendOn(model, sub, load);
+  if (HasFiniteValues(load, kMostCorners)) loads.AppendOn(sub, load);
+}
+
+Util::CShape PlateShape(CZelData const& model, int element) {
+  return {SpaceType::Surface, LocalNodes(model, element, model.Elem(element).NumTopo(), {})};
+}
+
+/// A point load goes to the first piece that it lies on.
+template <class Loads>
+void MapPointLoad(CZelData const& model, Loads& loads, CFaceLoad load, int parent,
+                  std::vector<int> const& subs) {
+  if (!model.ValidatePointLoadPosition(load, parent) || !HasShape(model, parent)) return;
+  auto const point = PlateShape(model, parent).CoorAtRS(load.Position());
+  double const tolerance = model.Spec().GenTol(TolType::PointInElement);
+  for (int const sub : subs) {
+    Vec2<double> at;
+    if (!PlateShape(model, sub).FindRS(point, at, tolerance)) continue;
+    load.SetPosition(at);
+    loads.AppendOn(sub, load);
+    return;
+  }
+}
+
+template <class Loads>
+void MapFaceLoad(CZelData const& model, Loads& loads, int n, int parent,
+                 std::vector<int> const& subs) {
+  auto const load = model.FaceLoad(n);
+  switch (load.TypeOf()) {
+    case FaceType::Uniform:
+      for (int const sub : subs) loads.AddTo(n, sub);
+      break;
+    case FaceType::PerCorner:
+      for (int const sub : subs) MapPressure(model, loads, load, parent, sub);
+      break;
+    case FaceType::Point:
+      MapPointLoad(model, loads, load, parent, subs);
+      break;
+  }
+}
+
+template <class Loads>
+void MapTemperatures(CZelData const& model, Loads& loads, Data::CFaceThermalLoad load, int parent,
+                     int sub) {
+  auto const frame = model.ElemDC(parent, EntAt::Ends, -1);
+  int const corners = NumCorner(model.Elem(parent));
+  CornerFit const fit(LocalNodes(model, parent, corners, frame));
+  auto const top = fit.Coefficients(ValuesFrom(load, 0, 2, corners));
+  auto const bottom = fit.Coefficients(ValuesFrom(load, 1, 2, corners));
+  for (int i = 0; i < 2 * kMostCorners; ++i) load.SetValue(i, 0);
+  int place = 0;
+  for (auto const& at : LocalNodes(model, sub, CornersWithValues(model, sub), frame)) {
+    load.SetValue(place++, CornerFit::At(at, top));
+    load.SetValue(place++, CornerFit::At(at, bottom));
+  }
+  if (HasFiniteValues(load, 2 * kMostCorners)) loads.AppendOn(sub, load);
 }
 
 }  // namespace
 
 bool CDataMgr::MapFaceLoading(NumberLists const& pieces) const {
   CUndoStep step(m_model, false);
-  auto loaded = LoadedNumbers<FaceLoads>(m_model, true);
+  LoadSheet<FaceLoads> loads(m_model, pieces);
   bool all = true;
   for (auto const& [parent, subs] : pieces) {
-    if (m_model.ElemExist(parent) && !loaded.contains(parent)) continue;
-    loaded.insert(subs.begin(), subs.end());
+    if (loads.IsOnIndirect(parent)) all = false;
+    auto const numbers = loads.On(parent);
+    if (numbers.empty()) continue;
     bool finite = HasFiniteNodes(m_model, parent);
     for (int const sub : subs) finite = finite && HasFiniteNodes(m_model, sub);
-    int const highest = m_model.HighestFaceLoad();
-    for (int n = 1; n <= highest; ++n) {
-      if (!FaceLoads::IsOn(m_model, n, parent)) continue;
-      auto const& load = m_model.FaceLoad(n);
-      if (IsIndirectList(load.LoadedEntities()) || !finite ||
-          !IsFinitePlateLoad(load, CornersWithValues(m_model, parent)))
+    for (int const n : numbers) {
+      if (!finite || !IsFinitePlateLoad(m_model.FaceLoad(n), CornersWithValues(m_model, parent)))
         all = false;
       else
-        MapFaceLoading(n, parent, subs);
+        MapFaceLoad(m_model, loads, n, parent, subs);
     }
-    UnMapFaceLoading(parent);
+    loads.TakeOff(parent);
   }
+  loads.Store();
   step.Accept();
   return all;
 }
 
 void CDataMgr::MapFaceLoading(int n, int parent, Numbers const& subs) const {
-  auto const load = m_model.FaceLoad(n);
-  if (load.LoadedEntities().TypeOf() != SelElement)
+  if (m_model.FaceLoad(n).LoadedEntities().TypeOf() != SelElement)
     throw std::runtime_error("this function is only intended for element loads");
-  switch (load.TypeOf()) {
-    case FaceType::Uniform:
-      for (int const sub : subs) FaceLoads::AddTo(m_model, n, sub);
-      break;
-    case FaceType::PerCorner:
-      for (int const sub : subs) MapPressure(m_model, load, parent, sub);
-      break;
-    case FaceType::Point:
-      MapPointLoad(load, parent, subs);
-      break;
-  }
+  MapOfParent<FaceLoads>(m_model, parent, [&](auto& loads) {
+    MapFaceLoad(m_model, loads, n, parent, subs);
+    return true;
+  });
 }
 
-/// A point load goes to the first piece that it lies on.
-void CDataMgr::MapPointLoad(CFaceLoad const& load, int parent, Numbers const& subs) const {
-  if (!m_model.ValidatePointLoadPosition(load, parent) || !HasShape(m_model, parent)) return;
-  auto const point = GetShapeOfElement(parent).CoorAtRS(load.Position());
-  double const tolerance = m_model.Spec().GenTol(TolType::PointInElement);
-  for (int const sub : subs) {
-    Vec2<double> at;
-    if (!GetShapeOfElement(sub).FindRS(point, at, tolerance)) continue;
-    auto mapped = load;
-    mapped.SetPosition(at);
-    FaceLoads::AppendOn(m_model, sub, mapped);
-    return;
-  }
-}
+Util::CShape CDataMgr::GetShapeOfElement(int element) const { return PlateShape(m_model, element); }
 
-Util::CShape CDataMgr::GetShapeOfElement(int element) const {
-  return {SpaceType::Surface, LocalNodes(m_model, element, m_model.Elem(element).NumTopo(), {})};
-}
-
-void CDataMgr::UnMapFaceLoading(int parent) const {
-  TakeElementOff<FaceLoads>(m_model, parent,
-                            [&](auto const& list) { return IsIndirectList(list); });
-}
+void CDataMgr::UnMapFaceLoading(int parent) const { TakeElementOff<FaceLoads>(m_model, parent); }
 
 bool CDataMgr::MapFaceThermalLoadLoading(NumberLists const& pieces) const {
   auto const loaded = LoadedNumbers<FaceThermalLoads>(m_model, true);
-  return MapByPair(
-      m_model, pieces, [&](int parent, Numbers const&) { return loaded.contains(parent); },
-      [&](int parent, int sub) { return MapFaceThermalLoadLoading(parent, sub); },
-      [&](int parent) { UnMapFaceThermalLoadLoading(parent); });
+  return MapByPair<FaceThermalLoads>(
+      m_model, pieces, [&](int parent) { return loaded.contains(parent); },
+      [&](auto& loads, int parent, int sub) {
+        return MapFaceThermalLoadLoading(loads, parent, sub);
+      });
 }
 
 bool CDataMgr::MapFaceThermalLoadLoading(int parent, int sub) const {
+  return MapOfParent<FaceThermalLoads>(
+      m_model, parent, [&](auto& loads) { return MapFaceThermalLoadLoading(loads, parent, sub); });
+}
+
+template <class Loads>
+bool CDataMgr::MapFaceThermalLoadLoading(Loads& loads, int parent, int sub) const {
+  bool all = !loads.IsOnIndirect(parent);
+  auto const numbers = loads.On(parent);
+  if (numbers.empty()) return all;
   bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
   int const corners = m_model.ElemExist(parent) ? NumCorner(m_model.Elem(parent)) : 0;
-  bool all = true;
-  int const highest = m_model.HighestFaceThermalLoad();
-  for (int n = 1; n <= highest; ++n) {
-    if (!FaceThermalLoads::IsOn(m_model, n, parent)) continue;
+  for (int const n : numbers) {
     auto const load = m_model.FaceThermalLoad(n);
     int const values = NumThermalValue(load.TypeOf(), std::min(corners, kMostCorners));
-    if (IsIndirectList(load.LoadedEntities()) || !finite || !HasFiniteValues(load, values))
+    if (!finite || !HasFiniteValues(load, values))
       all = false;
     else if (load.TypeOf() == ThermalType::Uniform || load.TypeOf() == ThermalType::Gradient)
-      FaceThermalLoads::AddTo(m_model, n, sub);
+      loads.AddTo(n, sub);
     else if (load.TypeOf() == ThermalType::PerCorner && (corners == 3 || corners == 4))
-      MapTemperatures(load, parent, sub);
+      MapTemperatures(m_model, loads, load, parent, sub);
   }
   return all;
 }
 
-void CDataMgr::MapTemperatures(Data::CFaceThermalLoad load, int parent, int sub) const {
-  auto const frame = m_model.ElemDC(parent, EntAt::Ends, -1);
-  int const corners = NumCorner(m_model.Elem(parent));
-  CornerFit const fit(LocalNodes(m_model, parent, corners, frame));
-  auto const top = fit.Coefficients(ValuesFrom(load, 0, 2, corners));
-  auto const bottom = fit.Coefficients(ValuesFrom(load, 1, 2, corners));
-  for (int i = 0; i < 2 * kMostCorners; ++i) load.SetValue(i, 0);
-  int place = 0;
-  for (auto const& at : LocalNodes(m_model, sub, CornersWithValues(m_model, sub), frame)) {
-    load.SetValue(place++, CornerFit::At(at, top));
-    load.SetValue(place++, CornerFit::At(at, bottom));
-  }
-  if (HasFiniteValues(load, 2 * kMostCorners)) FaceThermalLoads::AppendOn(m_model, sub, load);
-}
-
 void CDataMgr::UnMapFaceThermalLoadLoading(int parent) const {
-  TakeElementOff<FaceThermalLoads>(m_model, parent,
-                                   [&](auto const& list) { return IsIndirectList(list); });
+  TakeElementOff<FaceThermalLoads>(m_model, parent);
 }
 
 bool CDataMgr::Map2DLoading(NumberLists const& pieces) const {

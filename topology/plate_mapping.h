@@ -5,34 +5,44 @@
 #include <vector>
 
 #include "store/model/undo_step.h"
-#include "tarvex/data_mgr.h"
-#include "topology/load_table.h"
+#include "topology/load_sheet.h"
 
 namespace Tarvex {
 
 /// Maps the loads of a table pair by pair of parent and piece, as one undo step: all pieces of a
-/// parent, then the parent comes off. @return whether all calls of map(parent, piece) were true.
-template <class Wanted, class Map, class TakeOff>
-bool MapByPair(CZelData& model, CDataMgr::NumberLists const& pieces, Wanted&& wanted, Map&& map,
-               TakeOff&& takeOff) {
+/// parent, then the parent comes off. @return whether all calls of map(loads, parent, piece) were
+/// true.
+template <class Table, class Wanted, class Map>
+bool MapByPair(CZelData& model, CDataMgr::NumberLists const& pieces, Wanted&& wanted, Map&& map) {
   CUndoStep step(model, false);
+  LoadSheet<Table> loads(model, pieces);
   bool all = true;
   for (auto const& [parent, subs] : pieces) {
-    if (!wanted(parent, subs)) continue;
+    if (!wanted(parent)) continue;
     for (int const sub : subs)
-      if (!map(parent, sub)) all = false;
-    takeOff(parent);
+      if (!map(loads, parent, sub)) all = false;
+    loads.TakeOff(parent);
   }
+  loads.Store();
   step.Accept();
   return all;
 }
 
-/// Takes an element off the loads of a table. Lists for which isIndirect(list) holds stay.
-template <class Table, class IsIndirect>
-void TakeElementOff(CZelData& model, int element, IsIndirect&& isIndirect) {
-  for (int n = Table::Highest(model); n >= 1; --n)
-    if (Table::IsOn(model, n, element) && !isIndirect(Table::Read(model, n).LoadedEntities()))
-      Table::TakeOff(model, n, element);
+/// Calls map(loads) with the loads of a table on one parent. @return what it returned.
+template <class Table, class Map>
+bool MapOfParent(CZelData& model, int parent, Map&& map) {
+  LoadSheet<Table> loads(model, {{parent, {}}});
+  bool const all = map(loads);
+  loads.Store();
+  return all;
+}
+
+/// Takes an element off the loads of a table that are on plain lists.
+template <class Table>
+void TakeElementOff(CZelData& model, int element) {
+  LoadSheet<Table> loads(model, {{element, {}}});
+  loads.TakeOff(element);
+  loads.Store();
 }
 
 /// The elements that the loads of a table are on. @param elementsOnly passes lists of other kinds

@@ -6,8 +6,9 @@
 //
 // A tool keeps the model by reference and a copy of the selection, and nothing of a run. Elements
 // that it does not take, numbers without an element and load panels are passed over without a word;
-// so is an element with a corner node that does not exist. New nodes and elements take the numbers
-// behind the highest. Do is always true.
+// so is an element with a corner node that does not exist, but by CMod2DToLinear; CWarpElem2D asks
+// for the mid-side nodes too. New nodes and elements take the numbers behind the highest. Do is
+// always true.
 #pragma once
 
 #include "store/select/set.h"

@@ -25,10 +25,7 @@ namespace Tarvex {
 class CZelData;
 namespace Data {
 class CBeamLoad;
-class CBodyThermalLoad;
 class CEntList;
-class CFaceLoad;
-class CFaceThermalLoad;
 }  // namespace Data
 
 /// Keeps references and loads of a model true. Holds the model by reference, and nothing of a run
@@ -120,13 +117,19 @@ class TARVEX_EXPORT CDataMgr {
   bool MapEdgeLoading(int parent, int sub) const;
   /// Throws std::runtime_error "this function is only intended for element loads".
   void MapFaceLoading(int load, int parent, Numbers const& subs) const;
-  void MapPointLoad(Data::CFaceLoad const& load, int parent, Numbers const& subs) const;
   bool MapFaceThermalLoadLoading(int parent, int sub) const;
-  void MapTemperatures(Data::CFaceThermalLoad load, int parent, int sub) const;
   bool Map3dFaceLoading(int parent, int sub) const;
   bool LiesOnFace(int parent, int sub, int face) const;
   bool MapBodyThermalLoadLoading(int parent, int sub) const;
-  void MapNodeTemperatures(Data::CBodyThermalLoad load, int parent, int sub) const;
+  /// The same on the loads of a table, of which many parents are mapped.
+  template <class Loads>
+  bool MapEdgeLoading(Loads& loads, int parent, int sub) const;
+  template <class Loads>
+  bool MapFaceThermalLoadLoading(Loads& loads, int parent, int sub) const;
+  template <class Loads>
+  bool Map3dFaceLoading(Loads& loads, int parent, int sub) const;
+  template <class Loads>
+  bool MapBodyThermalLoadLoading(Loads& loads, int parent, int sub) const;
   void UnMapEdgeLoading(int parent) const;
   void UnMapFaceLoading(int parent) const;
   void UnMapFaceThermalLoadLoading(int parent) const;

@@ -63,6 +63,10 @@ bool CShape::FindRST(Vec3<double> const& point, Vec3<double>& rst, double tol) c
   return m_space == SpaceType::Solid && FindNatural(m_space, m_nodes, point, tol, rst);
 }
 
+bool CShape::HoldsRS(Vec2<double> rs, double tol) const noexcept {
+  return m_space == SpaceType::Surface && HoldsNatural(m_space, m_nodes, {rs.x, rs.y, 0}, tol);
+}
+
 Vec2<double> CShape::RS(int nodes, int index) {
   auto const natural = NaturalOf(ShapeKindOf(SpaceType::Surface, nodes), index);
   return {natural.x, natural.y};

@@ -26,8 +26,8 @@ class TARVEX_STORE_EXPORT CShape {
   Vec3<double> CoorAtRST(Vec3<double> const& rst) const;
 
   /// Whether the point belongs to the surface (FindRS) or solid (FindRST), and where it lies.
-  /// @param tol how far the point may lie outside: by this much in natural co-ordinates over the
-  /// edges or faces and, for a surface, by this much in model length units off the surface.
+  /// @param tol how far the point may lie outside: of a surface, by this much in model length units
+  /// over its edges and off it; of a solid, by this much in natural co-ordinates over its faces.
   /// Rounding of the co-ordinates is allowed for on top, so that 0 finds points of the boundary.
   /// @param rs natural co-ordinates, as they are and not moved into the element; for a surface
   /// those of the point of the surface below it. Untouched when the result is false.
@@ -35,6 +35,9 @@ class TARVEX_STORE_EXPORT CShape {
   /// and co-ordinates that are not finite. Nothing is thrown.
   bool FindRS(Vec3<double> const& point, Vec2<double>& rs, double tol) const noexcept;
   bool FindRST(Vec3<double> const& point, Vec3<double>& rst, double tol) const noexcept;
+  /// Whether natural co-ordinates belong to the surface, by the measure of FindRS: true of those
+  /// that it finds with the same tolerance.
+  bool HoldsRS(Vec2<double> rs, double tol) const noexcept;
 
   /// In the place of an index: the centre, which is the mean of the corners.
   static constexpr int kCentre = -1;

@@ -10,10 +10,12 @@ namespace {
 /// Sine of the angle between the directions of a shape, and their length against its size, below
 /// which it has no area or volume there.
 constexpr double kFlat = 1e-12;
-/// Rounding that is allowed for in natural co-ordinates.
+/// Rounding of natural co-ordinates themselves.
 constexpr double kNaturalRounding = 1e-12;
 constexpr int kMostSteps = 60;
 constexpr int kMostHalvings = 8;
+/// Steps to the nearest point of a side. One finds it on a straight side.
+constexpr int kSideSteps = 8;
 /// Steps below this, in natural co-ordinates, are taken whole: Newton's method converges there.
 constexpr double kLocalStep = 0.1;
 /// A step this small that no longer shrinks is rounding: the point is found.
@@ -67,12 +69,18 @@ class ShapeSearch {
   bool FindFrom(Vec3<double> const& start, double tol, Vec3<double>& natural) const {
     auto at = start;
     if (!Converge(at)) return false;
-    double const rounding = kNaturalRounding + m_rounding / m_size;
-    if (!(m_kind.overrun(at) <= tol + rounding)) return false;
+    if (!IsWithin(at, tol)) return false;
     double const allowed = m_kind.space == SpaceType::Surface ? tol : 0;
-    if (!(Length(At(at).offset) * m_size <= allowed + rounding * m_size)) return false;
+    if (!(Length(At(at).offset) * m_size <= allowed + Rounding() * m_size)) return false;
     natural = at;
     return true;
+  }
+
+  /// Whether natural co-ordinates lie in the shape, or over its edge or face by the tolerance.
+  bool IsWithin(Vec3<double> const& at, double tol) const {
+    double const overrun = m_kind.overrun(at);
+    if (m_kind.space != SpaceType::Surface) return overrun <= tol + Rounding();
+    return overrun <= Rounding() || DistanceToSides(at) * m_size <= tol + Rounding() * m_size;
   }
 
  private:
@@ -88,6 +96,34 @@ class ShapeSearch {
     }
     if (m_kind.space == SpaceType::Surface) place.t = Cross(place.r, place.s);
     return place;
+  }
+
+  /// Rounding that is allowed for in natural co-ordinates.
+  double Rounding() const { return kNaturalRounding + m_rounding / m_size; }
+
+  /// How far the point of a surface at natural co-ordinates outside of it lies from its sides.
+  double DistanceToSides(Vec3<double> const& at) const {
+    auto const point = At(at).offset;
+    auto const corners = static_cast<std::size_t>(m_kind.corners);
+    double least = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i < corners; ++i) {
+      auto const& start = m_kind.natural[i];
+      least =
+          std::min(least, DistanceToSide(start, m_kind.natural[(i + 1) % corners] - start, point));
+    }
+    return least;
+  }
+  double DistanceToSide(Vec3<double> const& start, Vec3<double> const& along,
+                        Vec3<double> const& point) const {
+    double t = 0.5;
+    for (int i = 0; i < kSideSteps; ++i) {
+      auto const place = At(start + along * t);
+      auto const slope = place.r * along.x + place.s * along.y;
+      double const step = Dot(point - place.offset, slope) / Dot(slope, slope);
+      if (!std::isfinite(step)) break;  // a side without length
+      t = std::clamp(t + step, 0.0, 1.0);
+    }
+    return Length(At(start + along * t).offset - point);
   }
 
   bool IsRegular(ShapePlace const& place) const {
@@ -156,6 +192,13 @@ bool FindNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<doub
   if (search.FindFrom(CentreOf(*kind), tol, natural)) return true;
   return std::any_of(kind->natural.begin(), kind->natural.end(),
                      [&](Vec3<double> const& node) { return search.FindFrom(node, tol, natural); });
+}
+
+bool HoldsNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<double> const& natural,
+                  double tol) noexcept {
+  auto const* const kind = FindShapeKind(space, static_cast<int>(nodes.size()));
+  if (!kind || !std::isfinite(natural.x + natural.y + natural.z)) return false;
+  return ShapeSearch(*kind, nodes, Interpolate(space, nodes, natural)).IsWithin(natural, tol);
 }
 
 }  // namespace Tarvex::Util

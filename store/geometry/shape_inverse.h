@@ -12,4 +12,8 @@ namespace Tarvex::Util {
 bool FindNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<double> const& point,
                  double tol, Vec3<double>& natural) noexcept;
 
+/// See CShape::HoldsRS.
+bool HoldsNatural(SpaceType space, std::span<Vec3<double> const> nodes, Vec3<double> const& natural,
+                  double tol) noexcept;
+
 }  // namespace Tarvex::Util

@@ -1,12 +1,16 @@
 #include "store/model/load_queries.h"
 
 #include <cmath>
+#include <utility>
+#include <vector>
 
+#include "store/geometry/shape.h"
 #include "store/model/list_expansion.h"
 #include "store/model/zel_data.h"
 #include "store/record/element.h"
 #include "store/record/face_loads.h"
 #include "store/record/member.h"
+#include "store/record/spec.h"
 
 namespace Tarvex {
 namespace {
@@ -29,8 +33,17 @@ bool LoadQueries::ValidatePointLoadPosition(Data::CFaceLoad const& load, int ele
   auto const& plate = m_model.Elem(element);
   if (!plate.Is2D()) return false;
   auto const& at = load.Position();
-  if (plate.IsQuad()) return std::abs(at.x) <= 1 + kRounding && std::abs(at.y) <= 1 + kRounding;
-  return at.x >= -kRounding && at.y >= -kRounding && at.x + at.y <= 1 + kRounding;
+  bool const inside =
+      plate.IsQuad() ? std::abs(at.x) <= 1 + kRounding && std::abs(at.y) <= 1 + kRounding
+                     : at.x >= -kRounding && at.y >= -kRounding && at.x + at.y <= 1 + kRounding;
+  if (inside) return true;
+  std::vector<Vec3<double>> nodes;
+  for (int const node : plate.Topology()) {
+    if (!m_model.NodeExist(node)) return false;
+    nodes.push_back(m_model.NodeCoor(node));
+  }
+  Util::CShape const shape(SpaceType::Surface, std::move(nodes));
+  return shape.HoldsRS({at.x, at.y}, m_model.Spec().GenTol(TolType::PointInElement));
 }
 
 Util::CSet LoadQueries::GetLoadedElements(Data::CLoadBase const& load, bool panels) const {

@@ -17,8 +17,8 @@ class CLoadBase;
 /// Queries of a model about its loads.
 class TARVEX_STORE_EXPORT LoadQueries {
  public:
-  /// Whether the position of a point load lies on an element: a triangle has r, s and 1 - r - s, a
-  /// quadrilateral 1 - |r| and 1 - |s|, each at least 0 but for rounding.
+  /// Whether the position of a point load lies on a plate, or over its edge by no more than the
+  /// tolerance with which pieces of a plate are searched for it (TolType::PointInElement).
   bool ValidatePointLoadPosition(Data::CFaceLoad const& load, int element) const;
   /// The existing elements that a load acts on; of a load on members their child elements, of a
   /// load on nodes none. @param panels whether load panels count too

@@ -32,8 +32,9 @@ using V = Vec3<double>;
 
 TEST(GeometryLink, Shapes) {
   EXPECT_TRUE(AreLinked(&CShape::CoorAtR, &CShape::CoorAtRS, &CShape::CoorAtRST, &CShape::FindRS,
-                        &CShape::FindRST, &CShape::RS, &CShape::RST, &Util::FindShapeKind,
-                        &Util::ShapeKindOf, &Util::CentreOf, &Util::Interpolate));
+                        &CShape::HoldsRS, &CShape::FindRST, &CShape::RS, &CShape::RST,
+                        &Util::FindShapeKind, &Util::ShapeKindOf, &Util::CentreOf,
+                        &Util::Interpolate));
   CShape const tetra(SpaceType::Solid, {{0, 0, 0}, {2, 0, 0}, {0, 2, 0}, {0, 0, 2}});
   V rst;
   EXPECT_TRUE(tetra.FindRST({0.5, 0.5, 0.5}, rst, 1e-6));

@@ -7,6 +7,7 @@
 #include "store/calc/load_totals.h"
 #include "store/model/undo_step.h"
 #include "store/text/cstring.h"
+#include "tarvex/data_mgr.h"
 #include "tarvex/refinement.h"
 #include "tests/members/random_plate.h"
 
@@ -190,6 +191,11 @@ TEST(ConversionProperty, KeepsTheAreaOfEachPlateThatIsRefined) {
       for (int const piece : made) sum += SizeOf(model, piece);
       ASSERT_NEAR(sum, SizeOf(model, n), 1e-12 * sum);
     }
+    // Neighbours share the nodes of their sides: no two stand in one place.
+    for (int const a : NodeNumbers(model))
+      for (int const b : NodeNumbers(model))
+        ASSERT_TRUE(a >= b || Length(model.NodeCoor(a) - model.NodeCoor(b)) > 1e-3)
+            << a << " " << b;
   });
   EXPECT_GT(refined, kModels);
 }
@@ -227,25 +233,95 @@ TEST(ConversionProperty, KeepsTheVolumeOfEachBrickThatIsRefined) {
 
 // Loads.
 
+/// Totals by case are those of another model but for 1e-9 of the loads that they are made of.
+void ExpectSameTotals(CZelData const& expected, CZelData const& model, int& cases) {
+  // Each load as a case of its own, so that loads against each other leave a measure.
+  CZelData single(expected);
+  std::map<int, int> caseOf;
+  int next = 0;
+  auto const setApart = [&](auto load) {
+    caseOf[++next] = load.LoadCase();
+    load.SetLoadCase(next);
+    return load;
+  };
+  for (int n = 1; n <= single.HighestFaceLoad(); ++n)
+    single.SetFaceLoad(n, setApart(single.FaceLoad(n)));
+  for (int n = 1; n <= single.HighestEdgeLoad(); ++n)
+    single.SetEdgeLoad(n, setApart(single.EdgeLoad(n)));
+  std::map<int, std::pair<double, double>> sizes;
+  for (auto const& [number, total] : SumLoads(single).byCase) {
+    sizes[caseOf.at(number)].first += Length(total.force);
+    sizes[caseOf.at(number)].second += Length(total.moment);
+  }
+  auto const before = SumLoads(expected);
+  auto const after = SumLoads(model);
+  ASSERT_TRUE(before.uncounted.empty());
+  ASSERT_TRUE(after.uncounted.empty());
+  ASSERT_EQ(after.byCase.size(), before.byCase.size());
+  for (auto const& [number, total] : before.byCase) {
+    ++cases;
+    auto const [force, moment] = sizes.at(number);
+    ASSERT_TRUE(IsNear(after.byCase.at(number).force, total.force, 1e-9 * force));
+    ASSERT_TRUE(IsNear(after.byCase.at(number).moment, total.moment, 1e-9 * moment));
+  }
+}
+
 TEST(ConversionProperty, KeepsForceAndMomentOfLoadsThroughTriangles) {
   int cases = 0;
   ForEachRandomModel(kModels, [&](CZelData const&, Random& random) {
     auto model = RandomPlate(random);
     if (random.Percent(50)) Convert<CMod2DToQuadratic>(model, AllElements(model));
     AddPlateLoads(model, random);
-    auto const before = SumLoads(model);
-    ASSERT_TRUE(before.uncounted.empty());
+    CZelData const before(model);
     Convert<CMod2DToTriangle>(model, AllElements(model));
-    auto const after = SumLoads(model);
-    ASSERT_EQ(after.byCase.size(), before.byCase.size());
-    // Sums of some dozen loads of up to 40 at 15 from the origin: 1e-9 of 1000 and 10000.
-    for (auto const& [number, total] : before.byCase) {
-      ++cases;
-      ASSERT_TRUE(IsNear(after.byCase.at(number).force, total.force, 1e-7));
-      ASSERT_TRUE(IsNear(after.byCase.at(number).moment, total.moment, 1e-6));
-    }
+    ExpectSameTotals(before, model, cases);
   });
   EXPECT_GT(cases, kModels);
+}
+
+TEST(ConversionProperty, KeepsForceAndMomentOfLoadsThroughTrianglesAndRefinementAgainAndAgain) {
+  int cases = 0;
+  ForEachRandomModel(kModels, [&](CZelData const&, Random& random) {
+    auto model = RandomPlate(random);
+    AddPlateLoads(model, random);
+    CZelData const before(model);
+    if (random.Percent(50)) Convert<CMod2DToTriangle>(model, AllElements(model));
+    for (int i = 0; i < 3; ++i) {
+      std::map<int, std::vector<int>> pieces;
+      int const node = random.Int(1, before.HighestNode());
+      ZelUtil::RefineMeshAtNode(model, node, random.Real(0, 0.3), 1e-6, pieces, CString(L""));
+      CDataMgr const manager(model);
+      ASSERT_TRUE(manager.Map2DLoading(pieces));
+      manager.ReplaceElemRef(pieces, true);
+      for (auto const& [n, made] : pieces) model.BlankElem(n, 1);
+    }
+    ExpectSameTotals(before, model, cases);
+  });
+  EXPECT_GT(cases, kModels);
+}
+
+TEST(ConversionProperty, KeepsPointLoadsThatStandNextToTheCuts) {
+  // Within 2 mm of the diagonal, of which 1 mm is the tolerance of the search for a piece.
+  int cases = 0;
+  ForEachRandomModel(kModels, [&](CZelData const&, Random& random) {
+    auto model = RandomPlate(random);
+    for (int const n : ElementNumbers(model)) {
+      if (CornersOf(model, n) == 3) continue;
+      Data::CFaceLoad load;
+      load.SetType(Data::CFaceLoad::Load2D::Point);
+      load.SetLoadCase(random.Int(1, 3));
+      load.SetValue(0, random.Real(1, 5));
+      double const r = random.Real(-0.9, 0.9);
+      load.SetPosition({r, (random.Percent(50) ? r : -r) + random.Real(-0.004, 0.004)});
+      load.SetLoadedEntities(Data::CEntList(SelElement, std::vector<int>{n}));
+      model.SetFaceLoad(model.HighestFaceLoad() + 1, load);
+    }
+    CZelData const before(model);
+    Convert<CMod2DToTriangle>(model, AllElements(model));
+    ASSERT_EQ(model.HighestFaceLoad(), before.HighestFaceLoad());
+    ExpectSameTotals(before, model, cases);
+  });
+  EXPECT_GT(cases, kModels / 2);
 }
 
 }  // namespace

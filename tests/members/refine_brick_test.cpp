@@ -101,6 +101,33 @@ TEST(RefineBrickAtCorner, TakesAllNodesWithinTheToleranceTheInnerOneToo) {
   EXPECT_EQ(model.HighestNode(), 15);
 }
 
+TEST(RefineBrickAtCorner, TakesAPresentNodeInThePlaceOfEachNewOne) {
+  auto model = Cube();
+  for (auto const& p : Points{{0, -2, -2},   // 9 e1
+                              {0, 0, -2},    // 10 fN
+                              {-2, 0, -2},   // 11 e3
+                              {-2, -2, 0},   // 12 eZ
+                              {0, -2, 0},    // 13 f1
+                              {-1, -1, -1},  // 14 m
+                              {-2, 0, 0}})   // 15 f3
+    NodeAt(model, p.x, p.y, p.z - 0.01);
+  EXPECT_TRUE(RefineBrickAtCorner(model, 1, 0, 0.5, 0.02, kNone));
+  EXPECT_TRUE(References(model, 2, {1, 9, 10, 11, 12, 13, 14, 15}));
+  EXPECT_TRUE(References(model, 3, {9, 2, 3, 10, 13, 6, 7, 14}));
+  EXPECT_TRUE(References(model, 4, {11, 10, 3, 4, 15, 14, 7, 8}));
+  EXPECT_TRUE(References(model, 5, {12, 13, 14, 15, 5, 6, 7, 8}));
+  EXPECT_EQ(model.HighestNode(), 15);
+}
+
+TEST(RefineBrickAtCorner, MapsTheInnerPointByTheShapeAndNotAlongTheDiagonal) {
+  // The corner 7 moves from 2 to 6 in each direction. At natural (-0.5, -0.5, -0.5) it has the part
+  // 0.25^3 = 0.015625: -1 + 4 0.015625 = -0.9375. Halfway from the centre, 0.5, it would be -0.75.
+  auto model = Cube();
+  model.SetNodeCoor(7, {6, 6, 6});
+  EXPECT_TRUE(RefineBrickAtCorner(model, 1, 0, 0.5, 0.001, kNone));
+  EXPECT_TRUE(IsNear(model.NodeCoor(14), {-0.9375, -0.9375, -0.9375}));
+}
+
 TEST(RefineBrickAtCorner, ClearsReleasesAndLockAndGivesTheIdentifierOrNone) {
   for (auto const* sid : {L"", L"r1"}) {
     auto model = Cube();
@@ -127,13 +154,17 @@ TEST(RefineBrickAtCorner, ClearsReleasesAndLockAndGivesTheIdentifierOrNone) {
 TEST(RefineBrickAtCorner, ThrowsForWhatIsNoBrick) {
   CZelData model;
   QuadAt(model, kSquare[0], kSquare[1], kSquare[2], kSquare[3]);
-  std::string text;
-  try {
-    RefineBrickAtCorner(model, 1, 0, 0.5, 0.001, kNone);
-  } catch (std::invalid_argument const& fault) {
-    text = fault.what();
+  ElementAt(model, ElementType::Wedge6,
+            {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 0, 1}, {0, 1, 1}});
+  for (int const n : {1, 2}) {
+    std::string text;
+    try {
+      RefineBrickAtCorner(model, n, 0, 0.5, 0.001, kNone);
+    } catch (std::invalid_argument const& fault) {
+      text = fault.what();
+    }
+    EXPECT_EQ(text, "invalid number of values for 3D element");
   }
-  EXPECT_EQ(text, "invalid number of values for 3D element");
 }
 
 }  // namespace

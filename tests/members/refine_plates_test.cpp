@@ -123,6 +123,24 @@ TEST(RefineQuadAtCorner, TakesNodesOfTheOutlineWithinTheToleranceAndInnerOnesAtT
   EXPECT_TRUE(References(exact, 2, {1, 6, 5, 7}));
 }
 
+TEST(RefineQuadAtCorner, TakesNodesWithinTheToleranceOnBothSidesOfTheCorner) {
+  auto model = OneQuad();
+  NodeAt(model, 0, -2, 0.01);  // 5 near s1
+  NodeAt(model, -2, 0, 0.01);  // 6 near s3
+  EXPECT_TRUE(RefineQuadAtCorner(model, 1, 0, 0.5, 0.02, kNone));
+  EXPECT_TRUE(References(model, 2, {1, 5, 7, 6}));
+  EXPECT_EQ(model.HighestNode(), 7);
+}
+
+TEST(RefineQuadAtCorner, MapsTheInnerPointByTheShapeAndNotAlongTheDiagonal) {
+  // Natural (-0.5, -0.5): 1.5 1.5 / 4 = 0.5625, 0.1875, 0.0625, 0.1875 of the corners.
+  // x = 0.1875 4 + 0.0625 8 = 1.25, y alike. Halfway from the centre (3, 3) it would be 1.5.
+  CZelData model;
+  ElementAt(model, ElementType::Quad4, {{0, 0, 0}, {4, 0, 0}, {8, 8, 0}, {0, 4, 0}});
+  EXPECT_TRUE(RefineQuadAtCorner(model, 1, 0, 0.5, 0.001, kNone));
+  EXPECT_TRUE(IsNear(model.NodeCoor(5), {1.25, 1.25, 0}));
+}
+
 TEST(RefineQuadAtCorner, TakesNoInnerNodesOfQuadraticPiecesWithinTheTolerance) {
   CZelData model;
   QuadraticAt(model, kBigSquare);
@@ -206,9 +224,37 @@ TEST(RefineTriAtCorner, CountsCornersRoundTheRing) {
 TEST(RefineTriAtCorner, TakesAllNodesWithinTheTolerance) {
   CZelData model;
   QuadraticAt(model, kBigTriangle);
-  for (auto const& p : Points{{1, 1, 0}, {1, 0, 0}}) NodeAt(model, p.x, p.y, 0.01);  // 7 and 8
+  for (auto const& p : Points{{1, 0, 0}, {0, 1, 0}, {3, 0, 0}, {0, 3, 0}, {1, 1, 0}})
+    NodeAt(model, p.x, p.y, 0.01);  // 7 to 11, near a, b, d, e, m
   EXPECT_TRUE(RefineTriAtCorner(model, 1, 0, 0.02, kNone));
-  EXPECT_TRUE(References(model, 2, {1, 4, 6, 8, 7, 9}));
+  EXPECT_TRUE(References(model, 2, {1, 4, 6, 7, 11, 8}));
+  EXPECT_TRUE(References(model, 3, {4, 2, 3, 6, 9, 5, 10, 11}));
+  EXPECT_EQ(model.HighestNode(), 11);
+}
+
+TEST(RefineTriAtCorner, TakesNodesWithinTheToleranceOnBothSidesOfTheCorner) {
+  CZelData model;
+  ElementAt(model, ElementType::Tri3, kBigTriangle);
+  for (auto const& p : Points{{2, 0, 0}, {0, 2, 0}}) NodeAt(model, p.x, p.y, 0.01);  // 4, 5
+  EXPECT_TRUE(RefineTriAtCorner(model, 1, 0, 0.02, kNone));
+  EXPECT_TRUE(References(model, 2, {1, 4, 5}));
+  EXPECT_TRUE(References(model, 3, {4, 2, 3, 5}));
+  EXPECT_EQ(model.HighestNode(), 5);
+}
+
+TEST(RefineTriAtCorner, MapsByTheShapeOfAllNodes) {
+  // The side 1-2 bulges by 1 in its middle: places go down by 4 r (1 - r - s).
+  CZelData model;
+  auto points = WithMiddles(kBigTriangle);
+  points[3] = {2, -1, 0};
+  ElementAt(model, ElementType::Tri6, points);
+  EXPECT_TRUE(RefineTriAtCorner(model, 1, 0, 0.001, kNone));
+  ExpectNodes(model, 7,
+              {{1, -0.75, 0},  // a at (1/4, 0): 4 1/4 3/4
+               {0, 1, 0},      // b at (0, 1/4)
+               {3, -0.75, 0},  // d at (3/4, 0): 4 3/4 1/4
+               {0, 3, 0},      // e at (0, 3/4)
+               {1, 0.5, 0}});  // m at (1/4, 1/4): 4 1/4 1/2
 }
 
 TEST(RefineTriAtCorner, KeepsReleasesOfTheCopyByPlaceAndTheIdentifier) {
@@ -231,7 +277,8 @@ TEST(RefinePlates, ThrowForATopologyThatIsNotThatOfTheType) {
   auto short8 = Element(ElementType::Quad8, {1, 2, 3, 4, 1});
   model.SetElem(2, short8);
   Brick(model, 1, 1, 1);
-  for (int const n : {2, 3}) {
+  ElementAt(model, ElementType::Tri3, kBigTriangle);
+  for (int const n : {2, 3, 4}) {
     std::string text;
     try {
       RefineQuadAtCorner(model, n, 0, 0.5, 0.001, kNone);

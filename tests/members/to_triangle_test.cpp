@@ -68,6 +68,15 @@ TEST(CMod2DToTriangle, CutsFromTheThirdOrFourthCornerWhenThatIsTheFlattest) {
   }
 }
 
+TEST(CMod2DToTriangle, CutsFromTheFirstCornerWhenTheSmallestProductIsLittleAboveOne) {
+  // corner 0: (0,3,2).(3,0,2) = 4              corner 1: (-3,0,-2).(0,3,-1.1) = 2.2
+  // corner 2: (0,-3,1.1).(-3,0,1.1) = 1.21     corner 3: (3,0,-1.1).(0,-3,-2) = 2.2
+  auto model = OneQuad({{0, 0, 0}, {3, 0, 2}, {3, 3, 0.9}, {0, 3, 2}});
+  ToTriangle(model, {1});
+  EXPECT_TRUE(References(model, 2, {1, 2, 3}));
+  EXPECT_TRUE(References(model, 3, {3, 4, 1}));
+}
+
 TEST(CMod2DToTriangle, CutsFromTheFirstCornerWhenNoProductIsBelowOne) {
   // A skew ring whose corners are all acute: (0,0,0) (10,0,10) (10,10,0) (0,10,10).
   //   corner 0: (0,10,10).(10,0,10) = 100      corner 1: (-10,0,-10).(0,10,-10) = 100

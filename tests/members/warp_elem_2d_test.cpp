@@ -58,6 +58,18 @@ TEST(CWarpElem2D, MeasuresTheWarpByTheLongestSide) {
   EXPECT_TRUE(IsCut(flat));
 }
 
+TEST(CWarpElem2D, TakesTheLongestOfAllFourSides) {
+  // The first side drops by 0.094. Both normals are z, as no diagonal rises.
+  double const h = 0.047;
+  // Sides of 1.00, 9.06 from (9, 1, 0.094), 10.00 and 1.00: 0.094 / 10 = 0.0094, while by 9.06 it
+  // is 0.0104.
+  EXPECT_FALSE(IsCut({{0, 0, h}, {1, 0, -h}, {10, 1, h}, {0, 1, -h}}));
+  // Sides of 1.00, 1.00, 9.06 and 10.00.
+  EXPECT_FALSE(IsCut({{0, 0, h}, {1, 0, -h}, {1, 1, h}, {0, 10, -h}}));
+  // A side of 9.2 as the longest: 0.094 / 9.2 = 0.0102.
+  EXPECT_TRUE(IsCut({{0, 0, h}, {1, 0, -h}, {9.2, 1, h}, {0, 1, -h}}));
+}
+
 /// A rectangle of the given length and width 1 whose sides all drop by 1: its normal is z.
 Points Long(double length) {
   return {{0, 0, 0.5}, {length, 0, -0.5}, {length, 1, 0.5}, {0, 1, -0.5}};

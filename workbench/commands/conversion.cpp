@@ -5,9 +5,11 @@
 
 #include "store/record/element.h"
 #include "tarvex/conversion.h"
+#include "workbench/commands/lost_loads.h"
 #include "workbench/commands/selection.h"
 #include "workbench/commands/shaped_loads.h"
 #include "workbench/commands/unlisted_pieces.h"
+#include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -23,7 +25,11 @@ constexpr double kMiddleTolerance = 1e-5;
 bool IsLinearPlate(Data::CElement const& element) {
   return element.Type() == ElementType::Quad4 || element.Type() == ElementType::Tri3;
 }
-bool IsQuadPlate(Data::CElement const& element) { return element.IsQuad(); }
+/// Whether a plate has the nodes of a quadrilateral: the cutting tools go by them and not by the
+/// type.
+bool IsQuadPlate(Data::CElement const& element) {
+  return element.Is2D() && (element.NumTopo() == 4 || element.NumTopo() == 8);
+}
 
 /// The elements of a set that pass a test.
 template <class Test>
@@ -66,7 +72,7 @@ void ToQuadratic(CZelData& model, Arguments const& arguments, CommandResult& res
 void TellPieces(std::map<int, std::vector<int>> const& pieces, CommandResult& result) {
   Json rows = Json::array();
   for (auto const& [n, made] : pieces) rows.push_back(Json::array({n, made}));
-  result.text += std::to_string(pieces.size()) + " elements cut\n";
+  result.text += Counted(pieces.size(), "element") + " cut\n";
   result.result = std::make_shared<Json>(Json{{"pieces", std::move(rows)}});
 }
 
@@ -74,6 +80,8 @@ void ToTriangles(CZelData& model, Arguments const& arguments, CommandResult& res
   auto const set = SelectByOptions(model, SelElement, arguments, result);
   CZelData const before(model);
   auto const quads = Those(model, set, &IsQuadPlate);
+  LoadMarks const marks(model);
+  CZelData const marked(model);
   WriteOutShapedLoads(model, quads);
   int next = model.HighestElem() + 1;
   RunTool<CMod2DToTriangle>(model, set, result);
@@ -84,6 +92,8 @@ void ToTriangles(CZelData& model, Arguments const& arguments, CommandResult& res
     pieces[n] = {next, next + 1};
     next += 2;
   }
+  LoadMarks::ReportLost(marked, model, pieces, result);
+  marks.TakeOff(model);
   TellPieces(pieces, result);
   WarnOfUnlistedPieces(before, model, result);
 }
@@ -98,7 +108,7 @@ void CutWarped(CZelData& model, Arguments const& arguments, CommandResult& resul
   std::map<int, std::vector<int>> pieces;
   Util::CSet cut(SelElement);
   for (int const n : quads) {
-    if (model.Elem(n).IsQuad()) continue;
+    if (model.Elem(n).NumTopo() == before.Elem(n).NumTopo()) continue;
     pieces[n] = {n, next++};
     cut.AddTo(n);
     if (before.Elem(n).IsConnect())

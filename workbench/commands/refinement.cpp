@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
+#include <set>
 
 #include "store/record/element.h"
 #include "store/record/node.h"
@@ -10,9 +11,11 @@
 #include "tarvex/data_mgr.h"
 #include "tarvex/refinement.h"
 #include "workbench/commands/errors.h"
+#include "workbench/commands/lost_loads.h"
 #include "workbench/commands/selection.h"
 #include "workbench/commands/shaped_loads.h"
 #include "workbench/commands/unlisted_pieces.h"
+#include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -43,20 +46,23 @@ std::string WhyLeft(CZelData const& model, Data::CElement const& element, int no
   if (sid != CString(L"") && element.Sid() != sid) return "it has another identifier";
   for (int const each : element.Topology())
     if (!model.NodeExist(each)) return "a node of its topology does not exist";
+  if (element.NumTopo() != element.Shape().nodes)
+    return "its number of nodes is not that of its type";
   bool corner = false;
   for (int i = 0; i < element.Shape().corners; ++i) corner = corner || element.Topo(i) == node;
   return corner ? "elements of its shape are not refined" : "the node is in the middle of its side";
 }
 
+/// @param told the elements that were reported at another node; those reported here join them.
 void ReportLeft(CZelData const& model, int node, CString const& sid, Pieces const& pieces,
-                CommandResult& result) {
+                std::set<int>& told, CommandResult& result) {
   for (int const n : model.Node(node).AttachedEnt(SelElement)) {
     if (!model.ElemExist(n) || pieces.contains(n)) continue;
     auto const& element = model.Elem(n);
     bool const made = std::any_of(pieces.begin(), pieces.end(), [&](auto const& row) {
       return std::find(row.second.begin(), row.second.end(), n) != row.second.end();
     });
-    if (!made && (element.Is2D() || element.Is3D()))
+    if (!made && (element.Is2D() || element.Is3D()) && told.insert(n).second)
       result.undone.push_back({"Elem", n, WhyLeft(model, element, node, sid)});
   }
 }
@@ -74,7 +80,20 @@ void WarnOfFolds(CZelData const& model, double ratio, Pieces const& pieces, Comm
   }
 }
 
-/// Gives loads and references to the pieces and removes the elements.
+/// Warns of pieces that have a node twice: a side was shorter than the tolerance reaches.
+void WarnOfRepeatedNodes(CZelData const& model, Pieces const& pieces, CommandResult& result) {
+  for (auto const& [n, made] : pieces)
+    for (int const piece : made) {
+      auto const& topology = model.Elem(piece).Topology();
+      std::set<int> const nodes(topology.begin(), topology.end());
+      if (nodes.size() < static_cast<std::size_t>(model.Elem(piece).NumTopo()))
+        result.warnings.push_back(
+            {"repeated-node", "Elem", piece,
+             "element " + std::to_string(piece) + " names a node twice: take a smaller --tol"});
+    }
+}
+
+/// Gives loads and references to the pieces and removes the elements. The loads bear marks.
 void Replace(CZelData& model, Pieces const& pieces, CommandResult& result) {
   Util::CSet elements(SelElement);
   Pieces plates;
@@ -83,16 +102,15 @@ void Replace(CZelData& model, Pieces const& pieces, CommandResult& result) {
     elements.AddTo(n);
     (model.Elem(n).Is2D() ? plates : solids)[n] = made;
   }
+  CZelData const before(model);
   WriteOutShapedLoads(model, elements);
   CDataMgr const manager(model);
-  bool const ofPlates = manager.Map2DLoading(plates);
-  bool const ofSolids = manager.Map3DLoading(solids);
-  if (!ofPlates || !ofSolids) {
-    result.messages.push_back(
-        "some loads could not be mapped: a value or a co-ordinate is not usable");
-    result.lookAt = true;
-  }
+  // What is left undone shows in the loads: a uniform load on a range is not mapped, and follows
+  // the references.
+  manager.Map2DLoading(plates);
+  manager.Map3DLoading(solids);
   manager.ReplaceElemRef(pieces, true);
+  LoadMarks::ReportLost(before, model, pieces, result);
   for (auto const& [n, made] : pieces) model.BlankElem(n, 1);
 }
 
@@ -104,16 +122,20 @@ void Refine(CZelData& model, Arguments const& arguments, CommandResult& result) 
   CString const sid = CString::FromUtf8(arguments.Text("--sid"));
   auto const nodes = SelectByOptions(model, SelNode, arguments, result);
   CZelData const before(model);
+  LoadMarks const marks(model);
   Json rows = Json::array();
+  std::set<int> told;
   for (int const node : nodes) {
     Pieces pieces;
     if (ZelUtil::RefineMeshAtNode(model, node, ratio, tolerance, pieces, sid)) result.did = true;
-    ReportLeft(model, node, sid, pieces, result);
+    ReportLeft(model, node, sid, pieces, told, result);
     WarnOfFolds(model, ratio, pieces, result);
+    WarnOfRepeatedNodes(model, pieces, result);
     Replace(model, pieces, result);
     for (auto const& [n, made] : pieces) rows.push_back(Json::array({n, made}));
   }
-  result.text = std::to_string(rows.size()) + " elements refined\n";
+  marks.TakeOff(model);
+  result.text = Counted(rows.size(), "element") + " refined\n";
   result.result = std::make_shared<Json>(Json{{"pieces", std::move(rows)}});
   result.tolerances.push_back({"coincidence", tolerance, "m"});
   WarnOfUnlistedPieces(before, model, result);

@@ -4,17 +4,12 @@
 #include "store/record/beam_loads.h"
 #include "store/record/body_loads.h"
 #include "store/record/face_loads.h"
+#include "workbench/commands/shaped_loads.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 using Data::CEntList;
-
-bool IsPlain(CEntList const& list) {
-  int count = 0;
-  Util::CSet set;
-  return list.CheckSimpleList(count, set) && count == list.NumWord();
-}
 
 bool IsOnAny(CZelData const& model, CEntList const& list, SelType kind,
              std::set<int> const& numbers) {
@@ -40,7 +35,7 @@ void FindIn(std::vector<Load> const& loads, char const* table, CZelData const& m
     ++n;
     auto const& list = load.LoadedEntities();
     if (!IsOnAny(model, list, kind, parents)) continue;
-    if (!IsPlain(list))
+    if (!IsPlainList(list))
       found.push_back({table, n, "its list is more than plain numbers: it is left as it is"});
     else if (kind == SelMember && !IsForMembers(load))
       found.push_back({table, n, "members take uniform loads only: it is taken off the member"});

@@ -111,6 +111,18 @@ TEST_P(EveryShape, FindsPointsFarFromTheOrigin) {
   }
 }
 
+/// Distance of a point of the plane to the nearest side of a polygon.
+double DistanceToSides(std::vector<V> const& corners, V const& at) {
+  double least = kInf;
+  for (std::size_t i = 0; i < corners.size(); ++i) {
+    auto const& a = corners[i];
+    auto const side = corners[(i + 1) % corners.size()] - a;
+    double const t = std::clamp(Dot(at - a, side) / Dot(side, side), 0.0, 1.0);
+    least = std::min(least, Length(at - a - side * t));
+  }
+  return least;
+}
+
 TEST_P(EveryShape, HoldsNoPointBeyondItsTolerance) {
   auto const [space, nodes] = GetParam();
   auto const& kind = ShapeKindOf(space, nodes);
@@ -121,11 +133,13 @@ TEST_P(EveryShape, HoldsNoPointBeyondItsTolerance) {
   for (int i = 0; i < 300; ++i) {
     V const at{random.Real(-1.5, 1.5), random.Real(-1.5, 1.5),
                space == SpaceType::Solid ? random.Real(-1.5, 1.5) : 0};
-    double const overrun = kind.overrun(at);
+    bool const solid = space == SpaceType::Solid;
+    double overrun = kind.overrun(at);
+    if (!solid && overrun > 0)
+      overrun = DistanceToSides({element.begin(), element.begin() + kind.corners}, at);
     if (std::abs(overrun) < 1e-6 || std::abs(overrun - 0.1) < 1e-6) continue;
     Vec2<double> rs;
     V rst;
-    bool const solid = space == SpaceType::Solid;
     EXPECT_EQ(solid ? shape.FindRST(at, rst, 0) : shape.FindRS(at, rs, 0), overrun < 0);
     EXPECT_EQ(solid ? shape.FindRST(at, rst, 0.1) : shape.FindRS(at, rs, 0.1), overrun < 0.1);
   }
@@ -184,14 +198,56 @@ TEST(ShapeInverse, LetsAPointLieOffASurfaceByTheTolerance) {
   EXPECT_FALSE(plate.FindRS({1.5, 0.5, 1e-9}, rs, 0));
 }
 
-TEST(ShapeInverse, LetsAPointLieOverAnEdgeByTheToleranceInNaturalCoordinates) {
-  CShape const plate(SpaceType::Surface, kSquare);  // half a side is 1, as in natural co-ordinates
+TEST(ShapeInverse, LetsAPointLieOverAnEdgeByTheToleranceInModelUnits) {
+  CShape const large(SpaceType::Surface, {{0, 0, 0}, {20, 0, 0}, {20, 20, 0}, {0, 20, 0}});
   Vec2<double> rs;
+  EXPECT_TRUE(large.FindRS({20.0009, 10, 0}, rs, 0.001));
+  EXPECT_NEAR(rs.x, 1.00009, 1e-14);  // 10.0009 / 10
+  EXPECT_FALSE(large.FindRS({20.0011, 10, 0}, rs, 0.001));
+  // Beyond a corner: 0.0008 in both directions are 0.0011 from it.
+  EXPECT_TRUE(large.FindRS({20.0007, 20.0007, 0}, rs, 0.001));
+  EXPECT_FALSE(large.FindRS({20.0008, 20.0008, 0}, rs, 0.001));
+
+  CShape const plate(SpaceType::Surface, kSquare);  // half a side is 1, as in natural co-ordinates
   EXPECT_TRUE(plate.FindRS({2.0009, 1, 0}, rs, 0.001));
   EXPECT_NEAR(rs.x, 1.0009, 1e-14);
   EXPECT_FALSE(plate.FindRS({2.0011, 1, 0}, rs, 0.001));
   EXPECT_TRUE(plate.FindRS({2, 1, 0}, rs, 0));
   EXPECT_FALSE(plate.FindRS({2.000001, 1, 0}, rs, 0));
+}
+
+TEST(ShapeInverse, MeasuresFromTheCurveOfACurvedSide) {
+  CShape const plate(SpaceType::Surface, {{-1, -1, 0},
+                                          {1, -1, 0},
+                                          {1, 1, 0},
+                                          {-1, 1, 0},
+                                          {0, -1.5, 0},  // half below the straight side
+                                          {1, 0, 0},
+                                          {0, 1, 0},
+                                          {-1, 0, 0}});
+  Vec2<double> rs;
+  EXPECT_TRUE(plate.FindRS({0, -1.5009, 0}, rs, 0.001));
+  EXPECT_LT(rs.y, -1);
+  EXPECT_FALSE(plate.FindRS({0, -1.5011, 0}, rs, 0.001));
+}
+
+TEST(ShapeInverse, HoldsTheNaturalCoordinatesThatItFinds) {
+  CShape const plate(SpaceType::Surface, kSkewQuad);
+  CShape const solid(SpaceType::Solid, {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1}});
+  Random random(7);
+  int outside = 0;
+  for (int i = 0; i < 2000; ++i) {
+    Vec2<double> const at{random.Real(-1.3, 1.3), random.Real(-1.3, 1.3)};
+    Vec2<double> rs;
+    if (!plate.FindRS(plate.CoorAtRS(at), rs, 0.05)) continue;
+    if (std::max(std::abs(rs.x), std::abs(rs.y)) > 1.001) ++outside;
+    ASSERT_TRUE(plate.HoldsRS(rs, 0.05)) << rs.x << " " << rs.y;
+  }
+  EXPECT_GT(outside, 20);
+  EXPECT_FALSE(plate.HoldsRS({2, 0}, 0.05));
+  EXPECT_FALSE(plate.HoldsRS({kNaN, 0}, 0.05));
+  EXPECT_FALSE(plate.HoldsRS({0, kNaN}, 0.05));
+  EXPECT_FALSE(solid.HoldsRS({0.1, 0.1}, 1));
 }
 
 TEST(ShapeInverse, FindsThePointBelowOnAWarpedSurface) {

@@ -8,6 +8,7 @@
 #include "store/record/face_loads.h"
 #include "store/record/member.h"
 #include "store/record/node_load.h"
+#include "store/record/spec.h"
 #include "tests/support/builders.h"
 
 namespace Tarvex::LoadQueriesTest {
@@ -25,10 +26,10 @@ TEST(ValidatePointLoadPosition, TakesTheSquareOfAQuadrilateral) {
   for (double const r : {-1.0, -0.3, 0.0, 1.0}) {
     EXPECT_TRUE(IsOn(model, 1, r, 1));
     EXPECT_TRUE(IsOn(model, 1, r, -1));
-    EXPECT_FALSE(IsOn(model, 1, r, 1.001));
-    EXPECT_FALSE(IsOn(model, 1, r, -1.001));
-    EXPECT_FALSE(IsOn(model, 1, 1.001, r));
-    EXPECT_FALSE(IsOn(model, 1, -1.001, r));
+    EXPECT_FALSE(IsOn(model, 1, r, 1.003));
+    EXPECT_FALSE(IsOn(model, 1, r, -1.003));
+    EXPECT_FALSE(IsOn(model, 1, 1.003, r));
+    EXPECT_FALSE(IsOn(model, 1, -1.003, r));
   }
   EXPECT_TRUE(IsOn(model, 1, 1 + 1e-9, -1 - 1e-9));  // rounding
   EXPECT_FALSE(IsOn(model, 1, std::nan(""), 0));
@@ -42,8 +43,30 @@ TEST(ValidatePointLoadPosition, TakesTheTriangleOfATriangle) {
   for (auto const& [r, s] : {std::pair{0.0, 0.0}, {1.0, 0.0}, {0.0, 1.0}, {0.5, 0.5}, {0.2, 0.3}})
     EXPECT_TRUE(IsOn(model, 2, r, s)) << r << " " << s;
   for (auto const& [r, s] :
-       {std::pair{-0.001, 0.5}, {0.5, -0.001}, {0.501, 0.5}, {1.0, 1.0}, {-1.0, -1.0}})
+       {std::pair{-0.002, 0.5}, {0.5, -0.002}, {0.502, 0.5}, {1.0, 1.0}, {-1.0, -1.0}})
     EXPECT_FALSE(IsOn(model, 2, r, s)) << r << " " << s;
+}
+
+TEST(ValidatePointLoadPosition, LetsAPointLieOverAnEdgeByTheToleranceOfTheModelInItsUnits) {
+  CZelData model;
+  for (auto const& [x, y] : {std::pair{0.0, 0.0}, {8.0, 0.0}, {8.0, 4.0}, {0.0, 4.0}})
+    Testing::NodeAt(model, x, y, 0);
+  model.SetElem(1, Testing::Element(ElementType::Quad4, {1, 2, 3, 4}));
+  model.SetElem(2, Testing::Element(ElementType::Tri3, {1, 2, 4}));
+  model.SetElem(3, Testing::Element(ElementType::Quad4, {1, 2, 3, 77}));
+  // 0.001 m. In r it is 0.001 / 4 of the rectangle and 0.001 / 8 of the triangle.
+  EXPECT_TRUE(IsOn(model, 1, 1.00024, 0));
+  EXPECT_FALSE(IsOn(model, 1, 1.00026, 0));
+  EXPECT_TRUE(IsOn(model, 1, 0, -1.00049));  // 0.00098
+  EXPECT_FALSE(IsOn(model, 1, 0, -1.00051));
+  EXPECT_TRUE(IsOn(model, 2, -0.000124, 0.5));
+  EXPECT_FALSE(IsOn(model, 2, -0.000126, 0.5));
+  EXPECT_FALSE(IsOn(model, 3, 1.00024, 0));  // a node is not there
+  auto spec = model.Spec();
+  spec.SetGenTol(TolType::PointInElement, 0.1);
+  model.SetSpec(spec);
+  EXPECT_TRUE(IsOn(model, 1, 1.024, 0));
+  EXPECT_FALSE(IsOn(model, 1, 1.026, 0));
 }
 
 TEST(ValidatePointLoadPosition, IsFalseForWhatIsNoPlate) {

@@ -1,5 +1,8 @@
 #include "workbench/commands/conversion.h"
 
+#include <cmath>
+#include <map>
+
 #include "tests/workbench/run.h"
 
 namespace Tarvex::ConversionCommandTest {
@@ -72,7 +75,127 @@ TEST_F(ConversionCommand, ToTrianglesTakesAllLoadsAlong) {
   EXPECT_EQ(data.at("changes").at("Elem").at("removed"), Json({1, 2, 3}));
   // Of the plane elements nothing changes in force or moment; case 1 is on the kite too, whose area
   // is not that of its pieces.
-  for (auto const& total : data.at("totals")) EXPECT_EQ(total.at("loadCase"), 1);
+  ASSERT_EQ(data.at("totals").size(), 1u);
+  EXPECT_EQ(data.at("totals").at(0).at("loadCase"), 1);
+  auto const totals = RunTarvex({"totals", Path("out.json"), "--json"}).Json();
+  std::map<int, double> inZ;
+  for (auto const& row : totals.at("data").at("cases"))
+    inZ[row.at("loadCase").get<int>()] = row.at("force").at(2).get<double>();
+  // Case 1: two squares of 4 and two triangles with the base (4, 0, 0) and sides of (2, -3, -1) and
+  // (2, 3, -1): half of |(4,0,0) x (2,3,-1)| = |(0,4,12)| / 2 = 6.32456 each; 20.64911 by -5.
+  EXPECT_NEAR(inZ.at(1), -5 * (8 + std::sqrt(160.0)), 1e-9);
+  EXPECT_NEAR(inZ.at(2), 8, 1e-12);   // two sides of 2 with 2
+  EXPECT_NEAR(inZ.at(3), 16, 1e-12);  // two squares of 4 with 2 in the middle
+}
+
+/// A plate of four nodes with a load; more elements and loads may follow.
+std::string Plate(std::string const& nodes, std::string const& elements, std::string const& loads) {
+  return Testing::kHeader + ", \"Node\": [" + nodes + "], \"Elem\": [" + elements + "], " + loads +
+         "}";
+}
+std::string const kSquareOfTen =
+    R"({"n": 1, "position": [0, 0, 0]}, {"n": 2, "position": [10, 0, 0]},
+{"n": 3, "position": [10, 10, 0]}, {"n": 4, "position": [0, 10, 0]})";
+std::string const kOneQuad = R"({"n": 1, "type": 5, "topology": [1, 2, 3, 4]})";
+
+TEST_F(ConversionCommand, ToTrianglesAndRefineKeepAPointLoadNextToACut) {
+  // At r = 0.1, s = 0.1001 it is 0.35 mm behind the diagonal, on which the first triangle ends.
+  auto const text = Plate(kSquareOfTen, kOneQuad, R"("FaceLoad": [{"loadCase": 1, "type": 3,
+"loadedEntities": {"text": "1"}, "direction": 3, "value": [-5, 0, 0, 0], "position": [0.1, 0.1001]}])");
+  auto data = RunOn({"to-triangles"}, 0, text);
+  EXPECT_EQ(data.at("totals"), Json::array());
+  data = RunOn({"refine", "--list", "3"}, 0, Read("out.json"));
+  EXPECT_EQ(data.at("totals"), Json::array());
+  EXPECT_EQ(Json::parse(Read("out.json")).at("FaceLoad").size(), 1u);
+}
+
+TEST_F(ConversionCommand, LoadsThatNoPieceCouldBeGivenAreReported) {
+  // Turned by 45 degrees the corners of a square are (0, 0) (a, a) (0, 2 a) (-a, a): x is xy / a,
+  // and the pressure has no polynomial.
+  auto const square = R"({"n": 1, "type": 5, "topology": [1, 2, 3, 4], "orientationAngle": 45})";
+  auto const loads =
+      R"("FaceLoad": [{"loadCase": 1, "loadedEntities": {"text": "1"}, "direction": 3,
+"value": [-1, 0, 0, 0]}, {"loadCase": 2, "type": 2, "loadedEntities": {"text": "1"}, "direction": 3,
+"value": [-5, -5, -5, -5], "sid": "mine"}])";
+  for (auto const& words :
+       std::vector<std::vector<std::string>>{{"to-triangles"}, {"refine", "--list", "1"}}) {
+    auto const data = RunOn(words, 1, Plate(kSquareOfTen, square, loads));
+    ASSERT_EQ(data.at("undone").size(), 1u);
+    auto const& row = data.at("undone").at(0);
+    EXPECT_EQ(row.at("table"), "FaceLoad");
+    EXPECT_EQ(row.at("number"), 2);
+    EXPECT_EQ(row.at("why"), "no piece of element 1 could be given it: it is gone there");
+    ASSERT_EQ(data.at("totals").size(), 1u);
+    EXPECT_EQ(data.at("totals").at(0).at("loadCase"), 2);
+  }
+}
+
+TEST_F(ConversionCommand, LoadsKeepTheirIdentifiersThroughPieces) {
+  auto const loads = R"("FaceLoad": [{"loadCase": 2, "type": 2, "loadedEntities": {"text": "1"},
+"direction": 3, "value": [-5, -5, -5, -5], "sid": "mine"}], "EdgeLoad": [{"loadCase": 2,
+"loadedEntities": {"text": "1"}, "direction": 3, "edge": 1, "value": [1, 1]}])";
+  for (auto const& words :
+       std::vector<std::vector<std::string>>{{"to-triangles"}, {"refine", "--list", "1"}}) {
+    RunOn(words, 0, Plate(kSquareOfTen, kOneQuad, loads));
+    auto const model = Json::parse(Read("out.json"));
+    EXPECT_GE(model.at("FaceLoad").size(), 2u);
+    for (auto const& load : model.at("FaceLoad")) EXPECT_EQ(load.at("sid"), "mine");
+    for (auto const& load : model.at("EdgeLoad")) EXPECT_FALSE(load.contains("sid"));
+  }
+}
+
+TEST_F(ConversionCommand, UniformLoadsOnRangesAndAllFollowTheirElements) {
+  for (std::string const list : {"1 to 2", "all"}) {
+    auto text = Plates();
+    text.replace(text.find("\"1 2 3\""), 7, "\"" + list + "\"");
+    auto const data = RunOn({"refine", "--list", "5"}, 0, text);
+    EXPECT_FALSE(data.contains("undone") && !data.at("undone").empty());
+    EXPECT_EQ(data.at("totals"), Json::array());
+    auto const model = Json::parse(Read("out.json"));
+    EXPECT_EQ(model.at("FaceLoad").at(0).at("loadedEntities").at("text"),
+              list == "all" ? "all" : "5 6 7 8 9 10");
+  }
+}
+
+TEST_F(ConversionCommand, PiecesAreThoseOfPlatesByTheirNumberOfNodes) {
+  // Element 1 has the type of a triangle and four nodes.
+  auto const nodes = kSquareOfTen + R"(, {"n": 5, "position": [20, 0, 0]},
+{"n": 6, "position": [20, 10, 0]})";
+  auto const elements = R"({"n": 1, "type": 7, "topology": [1, 2, 3, 4]},
+{"n": 2, "type": 5, "topology": [2, 5, 6, 3]})";
+  auto const data =
+      RunOn({"to-triangles"}, 0, Plate(nodes, elements, R"("FaceLoad": [{"loadCase": 1, "type": 2,
+"loadedEntities": {"text": "1 to 2"}, "direction": 3, "value": [1, 1, 1, 1]}])"));
+  EXPECT_EQ(data.at("result").at("pieces"), Json::parse("[[1,[3,4]],[2,[5,6]]]"));
+}
+
+TEST_F(ConversionCommand, MissingNodesAreReportedByToQuadraticAndCutWarped) {
+  auto text = Plates();
+  text.replace(text.find("[2, 3, 6, 5]"), 12, "[2, 3, 6, 9]");
+  for (auto const* command : {"to-quadratic", "cut-warped"}) {
+    auto const data = RunOn({command, "--list", "1 2"}, 1, text);
+    ASSERT_EQ(data.at("undone").size(), 1u) << command;
+    EXPECT_EQ(data.at("undone").at(0).at("number"), 2);
+    EXPECT_EQ(data.at("undone").at(0).at("why"), "a node of its topology does not exist");
+  }
+}
+
+TEST_F(ConversionCommand, PiecesOfChildrenThatTheirMemberDoesNotListAreWarnings) {
+  auto text = Plates();
+  text.replace(text.find("\"topology\": [2, 3, 6, 5]"), 24,
+               "\"topology\": [2, 3, 6, 5], \"parentMember\": {\"member\": 1}");
+  text.replace(text.find("\"Elem\""), 6,
+               R"("Member": [{"n": 1, "type": 4, "topology": "2 3 6 5", "children": [[0, 2]]}],
+"Elem")");
+  for (auto const& words : std::vector<std::vector<std::string>>{{"to-triangles", "--list", "2"},
+                                                                 {"refine", "--list", "3"}}) {
+    auto arguments = words;
+    arguments.insert(arguments.begin() + 1, Write("in.json", text));
+    arguments.insert(arguments.end(), {"--dry-run", "--json"});
+    auto const warnings = RunTarvex(arguments).Json().at("warnings");
+    ASSERT_EQ(warnings.size(), words[0] == "refine" ? 3u : 2u);
+    for (auto const& warning : warnings) EXPECT_EQ(warning.at("code"), "unlisted-piece");
+  }
 }
 
 TEST_F(ConversionCommand, ToTrianglesReportsAQuadrilateralWithoutANode) {
@@ -147,6 +270,86 @@ TEST_F(ConversionCommand, RefineWarnsOfPiecesThatFold) {
   auto const warnings = result.Json().at("warnings");
   ASSERT_EQ(warnings.size(), 2u);
   EXPECT_EQ(warnings.at(0).at("code"), "folded-piece");
+}
+
+TEST_F(ConversionCommand, RefineFoldsFromAHalfInPlatesAndFromAThirdInBricks) {
+  struct Row {
+    std::string node, ratio;
+    std::size_t folds;
+  };
+  for (auto const& row : {Row{"1", "0.499999", 0}, Row{"1", "0.5", 1}, Row{"25", "0.333333", 0},
+                          Row{"25", "0.33333333333333333", 1}}) {
+    auto const result = RunTarvex({"refine", Write("in.json", Plates()), "--list", row.node,
+                                   "--ratio", row.ratio, "--dry-run", "--json"});
+    auto const report = result.Json();
+    auto const folds = report.contains("warnings") ? report.at("warnings").size() : 0;
+    EXPECT_EQ(folds, row.folds) << row.node << " " << row.ratio;
+  }
+}
+
+TEST_F(ConversionCommand, RefineTakesElementsOfAnIdentifierAndGivesItToNodes) {
+  auto text = Plates();
+  text.replace(text.find("\"topology\": [2, 3, 6, 5]"), 24,
+               "\"topology\": [2, 3, 6, 5], \"sid\": \"mine\"");
+  auto const data = RunOn({"refine", "--list", "5", "--sid", "mine"}, 1, text);
+  EXPECT_EQ(data.at("result").at("pieces"), Json::parse("[[2,[5,6,7]]]"));
+  ASSERT_EQ(data.at("undone").size(), 1u);
+  EXPECT_EQ(data.at("undone").at(0).at("number"), 1);
+  EXPECT_EQ(data.at("undone").at(0).at("why"), "it has another identifier");
+  for (auto const& node : Json::parse(Read("out.json")).at("Node"))
+    EXPECT_EQ(node.value("sid", ""), node.at("n").get<int>() > 28 ? "mine" : "") << node.at("n");
+}
+
+TEST_F(ConversionCommand, RefineTakesNodesWithinTheTolerance) {
+  auto text = Plates();
+  text.replace(text.find("\"position\": [4, 2, 0]}"), 22,
+               "\"position\": [4, 2, 0]}, {\"n\": 7, \"position\": [1, 2, 0.01]}");
+  // Nodes of the inner points, and of the middles of the sides 1-2, 3-6 at 5: 2-5, 5-6 and 4-5,
+  // beside which node 7 stands.
+  for (auto const& [tolerance, added] : {std::pair{"0.02", 4u}, {"0.005", 5u}}) {
+    auto const data = RunOn({"refine", "--list", "5", "--tol", tolerance}, 0, text);
+    EXPECT_EQ(data.at("changes").at("Node").at("added").size(), added) << tolerance;
+    EXPECT_EQ(data.at("tolerances").at(0).at("value"), std::stod(tolerance));
+  }
+}
+
+TEST_F(ConversionCommand, RefineTellsWhyItLeavesAnElement) {
+  struct Row {
+    std::string elements, node, why;
+  };
+  auto const nodes = kSquareOfTen + R"(, {"n": 5, "position": [5, 0, 0]},
+{"n": 6, "position": [10, 5, 0]}, {"n": 7, "position": [5, 10, 0]}, {"n": 8, "position": [0, 5, 0]},
+{"n": 9, "position": [0, 0, 9]})";
+  for (auto const& row : {Row{R"({"n": 1, "type": 5, "topology": [1, 2, 3, 77]})", "1",
+                              "a node of its topology does not exist"},
+                          Row{R"({"n": 1, "type": 6, "topology": [1, 2, 3, 4]})", "1",
+                              "its number of nodes is not that of its type"},
+                          Row{R"({"n": 1, "type": 6, "topology": [1, 2, 3, 4, 5, 6, 7, 8]})", "5",
+                              "the node is in the middle of its side"},
+                          Row{R"({"n": 1, "type": 16, "topology": [1, 2, 4, 9]})", "1",
+                              "elements of its shape are not refined"}}) {
+    auto const data =
+        RunOn({"refine", "--list", row.node}, 1, Plate(nodes, row.elements, R"("Axis": [])"));
+    ASSERT_EQ(data.at("undone").size(), 1u) << row.why;
+    EXPECT_EQ(data.at("undone").at(0).at("why"), row.why);
+  }
+}
+
+TEST_F(ConversionCommand, RefineReportsAnElementThatStaysOnce) {
+  auto text = Plates();
+  text.replace(text.find("\"topology\": [2, 3, 6, 5]"), 24,
+               "\"topology\": [2, 3, 6, 5], \"dummy\": true");
+  auto const data = RunOn({"refine", "--list", "2 5"}, 1, text);
+  EXPECT_EQ(data.at("undone").size(), 1u);
+}
+
+TEST_F(ConversionCommand, RefineWarnsOfPiecesWithANodeTwice) {
+  // Half a side is 1: with 1.5 the new nodes are the corners.
+  auto const result = RunTarvex(
+      {"refine", Write("in.json", Plates()), "--list", "1", "--tol", "1.5", "--dry-run", "--json"});
+  auto const warnings = result.Json().at("warnings");
+  ASSERT_GT(warnings.size(), 0u);
+  EXPECT_EQ(warnings.at(0).at("code"), "repeated-node");
 }
 
 TEST_F(ConversionCommand, RefineRefusesARatioOfOneAndNoList) {
