@@ -14,6 +14,9 @@ using ThermalType = Data::CFaceThermalLoad::ThermalType;
 
 constexpr int kMostCorners = 4;
 
+/// Whether a field over a plate with so many corners can be fitted to them.
+bool HasFit(int corners) { return corners == 3 || corners == kMostCorners; }
+
 int CornersWithValues(CZelData const& model, int element) {
   return std::min(NumCorner(model.Elem(element)), kMostCorners);
 }
@@ -48,7 +51,7 @@ std::vector<double> ValuesFrom(Load const& load, int first, int step, int count)
 void MapPressure(CZelData& model, CFaceLoad load, int parent, int sub) {
   auto const frame = model.ElemDC(parent, EntAt::Ends, -1);
   int const corners = NumCorner(model.Elem(parent));
-  if (corners != 3 && corners != 4) return;
+  if (!HasFit(corners)) return;
   CornerFit const fit(LocalNodes(model, parent, corners, frame));
   if (!fit.IsDetermined()) return;
   auto const coefficients = fit.Coefficients(ValuesFrom(load, 0, 1, corners));
@@ -68,12 +71,18 @@ bool CDataMgr::MapFaceLoading(NumberLists const& pieces) const {
   for (auto const& [parent, subs] : pieces) {
     if (m_model.ElemExist(parent) && !loaded.contains(parent)) continue;
     loaded.insert(subs.begin(), subs.end());
-    bool finite = HasFiniteNodes(m_model, parent);
-    for (int const sub : subs) finite = finite && HasFiniteNodes(m_model, sub);
+    // A load panel takes a uniform pressure; any other asks for the shape of an element.
+    bool placed = HasFinitePlace(m_model, parent);
+    bool shaped = HasFiniteNodes(m_model, parent);
+    for (int const sub : subs) {
+      placed = placed && HasFinitePlace(m_model, sub);
+      shaped = shaped && HasFiniteNodes(m_model, sub);
+    }
     int const highest = m_model.HighestFaceLoad();
     for (int n = 1; n <= highest; ++n) {
       if (!FaceLoads::IsOn(m_model, n, parent)) continue;
       auto const& load = m_model.FaceLoad(n);
+      bool const finite = load.TypeOf() == FaceType::Uniform ? placed : shaped;
       if (IsIndirectList(load.LoadedEntities()) || !finite ||
           !IsFinitePlateLoad(load, CornersWithValues(m_model, parent)))
         all = false;
@@ -136,7 +145,8 @@ bool CDataMgr::MapFaceThermalLoadLoading(NumberLists const& pieces) const {
 }
 
 bool CDataMgr::MapFaceThermalLoadLoading(int parent, int sub) const {
-  bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
+  bool const placed = HasFinitePlace(m_model, parent) && HasFinitePlace(m_model, sub);
+  bool const shaped = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
   int const corners = m_model.ElemExist(parent) ? NumCorner(m_model.Elem(parent)) : 0;
   bool all = true;
   int const highest = m_model.HighestFaceThermalLoad();
@@ -144,11 +154,12 @@ bool CDataMgr::MapFaceThermalLoadLoading(int parent, int sub) const {
     if (!FaceThermalLoads::IsOn(m_model, n, parent)) continue;
     auto const load = m_model.FaceThermalLoad(n);
     int const values = NumThermalValue(load.TypeOf(), std::min(corners, kMostCorners));
+    bool const finite = load.TypeOf() == ThermalType::PerCorner ? shaped : placed;
     if (IsIndirectList(load.LoadedEntities()) || !finite || !HasFiniteValues(load, values))
       all = false;
     else if (load.TypeOf() == ThermalType::Uniform || load.TypeOf() == ThermalType::Gradient)
       FaceThermalLoads::AddTo(m_model, n, sub);
-    else if (load.TypeOf() == ThermalType::PerCorner && (corners == 3 || corners == 4))
+    else if (load.TypeOf() == ThermalType::PerCorner && HasFit(corners))
       MapTemperatures(load, parent, sub);
   }
   return all;
