@@ -106,10 +106,21 @@ class CConnect1dEl::Run {
     double const margin = std::abs(m_tool.m_endTol) + std::abs(m_tool.m_connectionTol) + slack;
     return LineBox::Around(a, b, margin);
   }
+  /// A box that holds every point of a line at which a corner can touch it, too: corners are looked
+  /// for along its axis. That of an entity with more nodes than two leaves its first two.
+  LineBox BoxWithAxis(MeetingLine const& line) const {
+    auto along = line;
+    auto const x = m_model.EntDC({m_tool.m_entType, line.entity}).AxisVec(Direction::X);
+    along.line = {line.line.Start(), line.line.Start() + line.length * x};
+    return BoxOf(line).With(BoxOf(along));
+  }
   void PutLine(int entity) {
     MeetingLine line;
-    if (CanBeSecond(entity) && ReadLine(entity, 0, false, line))
-      m_index.Put(entity, line.a, line.b, BoxOf(line));
+    if (!CanBeSecond(entity) || !ReadLine(entity, 0, false, line)) return;
+    SEntRef const ref(m_tool.m_entType, entity);
+    std::vector<int> nodes;
+    for (int i = 0; i < m_model.EntNumTopo(ref); ++i) nodes.push_back(m_model.EntTopo(ref, i));
+    m_index.Put(entity, nodes, BoxWithAxis(line));
   }
 
   /// What came of two lines.

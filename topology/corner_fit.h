@@ -26,8 +26,6 @@ class CornerFit {
   explicit CornerFit(std::vector<Vec3<double>> const& corners)
       : m_count(corners.size()), m_lu(MatrixOf(corners)) {}
 
-  static bool TakesCorners(int count) { return count == 3 || count == 4 || count == 8; }
-
   /// Whether the corners determine the polynomial.
   bool IsDetermined() const { return m_lu.Rank() == static_cast<int>(m_count); }
   /// The coefficients for values at the corners.

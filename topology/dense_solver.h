@@ -3,7 +3,7 @@
 //   DenseMatrix a(3, 3);
 //   a(0, 1) = 2.0;  ...
 //   DenseLu const lu(a);
-//   if (lu.Rank() == 3) std::vector<double> const x = lu.Inverse() * b;
+//   if (lu.Rank() == 3) std::vector<double> const x = Product(lu.Inverse(), b);
 #pragma once
 
 #include <cstddef>

@@ -39,10 +39,10 @@ struct LineBox {
 /// gone or moved is still found where it was: who asks looks at the line itself.
 class LineIndex {
  public:
-  /// Takes a line, new or changed. The nodes are those of its ends.
-  void Put(int line, int a, int b, LineBox const& box) {
+  /// Takes a line, new or changed, and the nodes that its box follows from.
+  void Put(int line, std::vector<int> const& nodes, LineBox const& box) {
     m_boxes[line] = box;
-    for (int const node : {a, b}) {
+    for (int const node : nodes) {
       auto& lines = m_linesAt[node];
       if (std::find(lines.begin(), lines.end(), line) == lines.end()) lines.push_back(line);
     }
@@ -50,7 +50,7 @@ class LineIndex {
   }
   void Remove(int line) { m_boxes.erase(line); }
 
-  /// The lines that have, or once had, an end at a node.
+  /// The lines whose boxes follow, or once followed, from a node.
   std::vector<int> LinesAt(int node) const {
     auto const found = m_linesAt.find(node);
     return found == m_linesAt.end() ? std::vector<int>() : found->second;

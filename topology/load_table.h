@@ -13,6 +13,7 @@
 #include "store/record/element.h"
 #include "store/record/face_loads.h"
 #include "store/record/node.h"
+#include "store/record/variant_element.h"
 
 namespace Tarvex {
 
@@ -102,12 +103,18 @@ inline std::optional<Vec3<double>> FinitePosition(CZelData const& model, int nod
   return finite ? std::optional(at) : std::nullopt;
 }
 
-/// Whether an element exists and all its nodes do, at finite places.
-inline bool HasFiniteNodes(CZelData const& model, int element) {
-  if (!model.ElemExist(element) || model.Elem(element).NumTopo() == 0) return false;
-  for (int const node : model.Elem(element).Topology())
+/// Whether an element or load panel exists and all its nodes do, at finite places.
+inline bool HasFinitePlace(CZelData const& model, int number) {
+  auto const entity = model.VariantElement(number);
+  if (!entity || entity->Topology().empty()) return false;
+  for (int const node : entity->Topology())
     if (!FinitePosition(model, node)) return false;
   return true;
+}
+
+/// Whether an element exists and all its nodes do, at finite places.
+inline bool HasFiniteNodes(CZelData const& model, int element) {
+  return model.ElemExist(element) && HasFinitePlace(model, element);
 }
 
 /// Corners of a plate: all nodes, or the first half where there are more than four.

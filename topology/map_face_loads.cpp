@@ -14,6 +14,9 @@ using ThermalType = Data::CFaceThermalLoad::ThermalType;
 
 constexpr int kMostCorners = 4;
 
+/// Whether a field over a plate with so many corners can be fitted to them.
+bool HasFit(int corners) { return corners == 3 || corners == kMostCorners; }
+
 int CornersWithValues(CZelData const& model, int element) {
   return std::min(NumCorner(model.Elem(element)), kMostCorners);
 }
@@ -49,7 +52,7 @@ template <class Loads>
 void MapPressure(CZelData const& model, Loads& loads, CFaceLoad load, int parent, int sub) {
   auto const frame = model.ElemDC(parent, EntAt::Ends, -1);
   int const corners = NumCorner(model.Elem(parent));
-  if (corners != 3 && corners != 4) return;
+  if (!HasFit(corners)) return;
   CornerFit const fit(LocalNodes(model, parent, corners, frame));
   if (!fit.IsDetermined()) return;
   auto const coefficients = fit.Coefficients(ValuesFrom(load, 0, 1, corners));
@@ -124,10 +127,17 @@ bool CDataMgr::MapFaceLoading(NumberLists const& pieces) const {
     if (loads.IsOnIndirect(parent)) all = false;
     auto const numbers = loads.On(parent);
     if (numbers.empty()) continue;
-    bool finite = HasFiniteNodes(m_model, parent);
-    for (int const sub : subs) finite = finite && HasFiniteNodes(m_model, sub);
+    // A load panel takes a uniform pressure; any other asks for the shape of an element.
+    bool placed = HasFinitePlace(m_model, parent);
+    bool shaped = HasFiniteNodes(m_model, parent);
+    for (int const sub : subs) {
+      placed = placed && HasFinitePlace(m_model, sub);
+      shaped = shaped && HasFiniteNodes(m_model, sub);
+    }
     for (int const n : numbers) {
-      if (!finite || !IsFinitePlateLoad(m_model.FaceLoad(n), CornersWithValues(m_model, parent)))
+      auto const& load = m_model.FaceLoad(n);
+      bool const finite = load.TypeOf() == FaceType::Uniform ? placed : shaped;
+      if (!finite || !IsFinitePlateLoad(load, CornersWithValues(m_model, parent)))
         all = false;
       else
         MapFaceLoad(m_model, loads, n, parent, subs);
@@ -171,16 +181,18 @@ bool CDataMgr::MapFaceThermalLoadLoading(Loads& loads, int parent, int sub) cons
   bool all = !loads.IsOnIndirect(parent);
   auto const numbers = loads.On(parent);
   if (numbers.empty()) return all;
-  bool const finite = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
+  bool const placed = HasFinitePlace(m_model, parent) && HasFinitePlace(m_model, sub);
+  bool const shaped = HasFiniteNodes(m_model, parent) && HasFiniteNodes(m_model, sub);
   int const corners = m_model.ElemExist(parent) ? NumCorner(m_model.Elem(parent)) : 0;
   for (int const n : numbers) {
     auto const load = m_model.FaceThermalLoad(n);
     int const values = NumThermalValue(load.TypeOf(), std::min(corners, kMostCorners));
+    bool const finite = load.TypeOf() == ThermalType::PerCorner ? shaped : placed;
     if (!finite || !HasFiniteValues(load, values))
       all = false;
     else if (load.TypeOf() == ThermalType::Uniform || load.TypeOf() == ThermalType::Gradient)
       loads.AddTo(n, sub);
-    else if (load.TypeOf() == ThermalType::PerCorner && (corners == 3 || corners == 4))
+    else if (load.TypeOf() == ThermalType::PerCorner && HasFit(corners))
       MapTemperatures(m_model, loads, load, parent, sub);
   }
   return all;

@@ -1,6 +1,4 @@
 // New nodes in the place of old ones.
-#include <array>
-
 #include "store/model/undo_step.h"
 #include "store/record/constraint_eqn.h"
 #include "store/record/joint.h"

@@ -70,8 +70,12 @@ class TARVEX_EXPORT CDataMgr {
   bool CopyElemRef(NumberMap const& copies, bool lists, bool tied, bool loads) const;
 
   // Loads. The result is false when a load could not be mapped: one on a list that is more than
-  // plain numbers, one that is not uniform on a member, one with a co-ordinate or value that is not
-  // finite. The first keeps its list; any other is taken from the parent all the same.
+  // plain numbers, one that is not uniform on a member, a uniform one where a piece reaches beyond
+  // its member, one with a co-ordinate or value that is not finite, one that is not uniform where a
+  // piece is a load panel. The first keeps its list; any other is taken from the parent all the
+  // same. What is lost without a word: a point load or distortion where its piece runs against the
+  // parent or none lies under it, loads by corner or edge where the pieces do not fit the parent,
+  // and a load whose list names nothing but load panels in the end.
 
   /// Gives beam loads and distortions of lines to the pieces that lie along them.
   /// @param kind SelElement, or SelMember: members take uniform loads only.
@@ -102,8 +106,10 @@ class TARVEX_EXPORT CDataMgr {
   /// 1 its middle, 2 its fall; 0 for any other
   void MapBeamPatchLoad(Data::CBeamLoad const& load, int sub, double length, double start,
                         double end, int section) const;
-  /// Takes a parent off its loads. The sets stay beside their records: that of a load that goes,
-  /// goes too.
+  /// Takes a parent off its loads. The tables close up when a load goes, and the parents behind
+  /// this one go by the sets: that of a load that goes, goes too, so that each set stays beside the
+  /// load whose parents it holds. Else the load of a later parent would be looked for under a
+  /// number that is not its own any more, and stay unmapped.
   void UnMapBeamLoading(int parent, Sets& beamSets, Sets& distSets) const;
   /// Where the ends of a sub-element lie along its parent, model length units. @return how far they
   /// lie off its axis at most.

@@ -146,7 +146,7 @@ class TARVEX_EXPORT CConnect1dEl {
   bool m_allLoadsMapped = true;
   bool m_someSplitsSkipped = false;
   Util::CSet m_set;
-  CString m_text;  // kept for applications that name their runs
+  CString m_text;  // part of the state of a run; nothing here reads it
 };
 
 }  // namespace Tarvex

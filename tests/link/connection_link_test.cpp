@@ -68,10 +68,10 @@ TEST(ConnectionLink, MergeRigidGuardsItsModel) {
 TEST(ConnectionLink, DisconnectIsMadeCopiedMovedConfiguredAndRun) {
   EXPECT_TRUE(AreLinked(
       &CDisconnect::DisconnectNode, &CDisconnect::DisconnectEntity, &CDisconnect::NodesInSet,
-      &CDisconnect::NodesOnEntities, &CDisconnect::JointSpring, &CDisconnect::CreateNode,
-      &CDisconnect::CreateJoint, &CDisconnect::CreateSpring, &CDisconnect::NodeOnElement,
-      &CDisconnect::NodeOnMember, &CDisconnect::SetCreateJoint, &CDisconnect::SetCreateSpring,
-      &CDisconnect::SetFullDisconnect));
+      &CDisconnect::NodesOnEntities, Testing::Member<void(int)>(&CDisconnect::JointSpring),
+      &CDisconnect::CreateNode, &CDisconnect::CreateJoint, &CDisconnect::CreateSpring,
+      &CDisconnect::NodeOnElement, &CDisconnect::NodeOnMember, &CDisconnect::SetCreateJoint,
+      &CDisconnect::SetCreateSpring, &CDisconnect::SetFullDisconnect));
   CZelData model;
   Testing::Grid(model, 2, 1);
   CDisconnect tool(model);

@@ -129,6 +129,20 @@ TEST(MapBeamLoading, MakesAPatchOfAUniformLoadOnAPieceThatReachesFurtherOverAnEn
             (AllSeen{{L"8", 4, 5, 5, 2, -1}, {L"9", 4, 5, 5, 0, 6}, {L"10", 4, 5, 5, 1, 11}}));
 }
 
+TEST(MapBeamLoading, MakesAPatchFromATenthOfAMillimetreOverAnEndOnHoweverLongTheParentIs) {
+  for (double const length : {10.0, 1000.0}) {
+    CZelData model;
+    BeamOn(model, 7, 0, length);
+    BeamOn(model, 8, -0.00011, length / 2);
+    BeamOn(model, 9, length / 2, length + 0.00011);
+    Add(model, Load(LoadType::Uniform, {5}));
+    EXPECT_TRUE(Map(model, kTwo));
+    // The load begins 0.00011 behind the start of 8 and ends half the parent behind that of 9.
+    EXPECT_EQ(Loads(model),
+              (AllSeen{{L"8", 4, 5, 5, 0.00011, -1}, {L"9", 4, 5, 5, 0, length / 2}}));
+  }
+}
+
 // Point.
 
 TEST(MapBeamLoading, GivesAPointLoadToThePieceUnderItAtItsPlaceThere) {
@@ -185,6 +199,15 @@ TEST(MapBeamLoading, MakesAPatchOfALinearLoadOnAPieceThatReachesOverAnEnd) {
   BeamOn(model, 8, 5, 12);
   Add(model, Load(LoadType::Linear, {10, 30}));
   EXPECT_TRUE(Map(model, {{7, {8}}}));
+  EXPECT_EQ(Loads(model), (AllSeen{{L"8", 4, 20, 30, 0, 5}}));
+}
+
+TEST(MapBeamLoading, MakesAPatchOfALinearLoadFromATenthOfAMillimetreOverAnEndOn) {
+  auto model = CutModel({});
+  BeamOn(model, 8, 5, 10.00011);
+  Add(model, Load(LoadType::Linear, {10, 30}));
+  EXPECT_TRUE(Map(model, {{7, {8}}}));
+  // 10 + 2 * 5 = 20 at its start; the load ends 5 from there.
   EXPECT_EQ(Loads(model), (AllSeen{{L"8", 4, 20, 30, 0, 5}}));
 }
 
@@ -331,6 +354,13 @@ TEST(MapBeamLoading, PassesLoadsOnOtherElementsAndOnMembersOver) {
   CZelData const before(model);
   EXPECT_TRUE(Map(model, {{7, {8, 9}}, {1, {8, 9}}}));
   EXPECT_TRUE(IsUnchanged(model, before));
+}
+
+TEST(MapBeamLoading, RemovesALoadWhoseListNamesNothingThatExistsAnyMore) {
+  auto model = CutModel({4, 10});
+  Add(model, Load(LoadType::Linear, {10, 30}, {}, L"7 99"));
+  EXPECT_TRUE(Map(model, kTwo));
+  EXPECT_EQ(Loads(model), (AllSeen{{L"8", 3, 10, 18, 0, 0}, {L"9", 3, 18, 30, 0, 0}}));
 }
 
 // Several parents in one map.
@@ -583,6 +613,16 @@ TEST(MapBeamLoading, LeavesALoadOfAnUnknownTypeAndFindsNoFault) {
   Add(model, Load(static_cast<LoadType>(6), {5}));
   EXPECT_TRUE(Map(model, kTwo));
   EXPECT_EQ(model.HighestBeamLoad(), 0);  // but it comes off the parent
+}
+
+TEST(MapBeamLoading, IsAStepAlsoWithNothingToDo) {
+  for (auto const& pieces : {NumberLists{}, kTwo}) {
+    auto model = CutModel({4, 10});
+    CZelData const before(model);
+    EXPECT_TRUE(Map(model, pieces));
+    EXPECT_TRUE(IsUnchanged(model, before));
+    EXPECT_EQ(model.NumUndo(), 1);
+  }
 }
 
 TEST(MapBeamLoading, IsOneStepThatCanBeUndone) {

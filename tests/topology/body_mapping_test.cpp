@@ -86,6 +86,62 @@ TEST(Map3dFaceLoading, SkipsAPieceThatReachesOutOfTheParent) {
   EXPECT_EQ(ValuesOf(model.BodyFaceLoad(), 1), (AllValues{{L"80", {5}}}));
 }
 
+/// A solid of 2 by 2 by 2 with a uniform pressure on each face, and one piece on nodes of its own.
+CZelData PressedBrick(Points const& piece) {
+  auto model = CutBrick(2, 2, 2);
+  model.BlankElem(kFirstPiece, 8);
+  std::vector<int> nodes;
+  for (auto const& p : piece) nodes.push_back(NodeAt(model, p.x, p.y, p.z));
+  model.SetElem(kFirstPiece, Element(ElementType::Brick8, nodes));
+  for (int face = 0; face < 6; ++face)
+    model.SetBodyFaceLoad(face + 1, FaceLoad(FaceType::Uniform, face, {5}));
+  return model;
+}
+/// The faces whose loads are left, each once.
+std::vector<int> LoadedFaces(CZelData const& model) {
+  std::vector<int> faces;
+  for (auto const& load : model.BodyFaceLoad()) {
+    EXPECT_EQ(TextOf(load.LoadedEntities()), L"80");
+    faces.push_back(load.Face());
+  }
+  return faces;
+}
+
+TEST(Map3dFaceLoading, LetsAPieceLieOffAFaceOrOutsideByAMillionthInNaturalCoordinates) {
+  // A cell at the corner of the solid; natural co-ordinates are lengths less 1.
+  auto const cell = [](double z, double x) {
+    return Points{{1, 0, z}, {x, 0, z}, {2, 1, z}, {1, 1, z},
+                  {1, 0, 1}, {2, 0, 1}, {2, 1, 1}, {1, 1, 1}};
+  };
+  struct Case {
+    double z;
+    double x;
+    bool takes;
+  };
+  for (auto const& [z, x, takes] : {Case{0, 2, true}, Case{1e-7, 2, true}, Case{1e-5, 2, false},
+                                    Case{0, 2 + 1e-7, true}, Case{0, 2 + 1e-5, false}}) {
+    auto model = PressedBrick(cell(z, x));
+    int const below = FaceWhere(model, kParent, [](Vec3<double> const& p) { return p.z == 0; });
+    EXPECT_TRUE(Map(model, {{kParent, {kFirstPiece}}}));
+    auto const faces = LoadedFaces(model);
+    EXPECT_EQ(std::count(faces.begin(), faces.end(), below), takes ? 1 : 0) << z << " " << x;
+  }
+}
+
+TEST(Map3dFaceLoading, TakesANaturalCoordinateOfZeroInCommonWithTheCentreOfAFaceForTheFace) {
+  // Upright on the middles of the sides, from half the height up: each node has r = 0 or s = 0, as
+  // the centres of the lower and the upper face have; the piece touches the upper one alone. A side
+  // face has t = 0 at its centre and so have the lower nodes of the piece, but not its upper ones.
+  auto model = PressedBrick(
+      {{1, 0, 1}, {2, 1, 1}, {1, 2, 1}, {0, 1, 1}, {1, 0, 2}, {2, 1, 2}, {1, 2, 2}, {0, 1, 2}});
+  std::vector<int> expected;
+  for (double const z : {0.0, 2.0})
+    expected.push_back(FaceWhere(model, kParent, [z](Vec3<double> const& p) { return p.z == z; }));
+  std::sort(expected.begin(), expected.end());
+  EXPECT_TRUE(Map(model, {{kParent, {kFirstPiece}}}));
+  EXPECT_EQ(LoadedFaces(model), expected);
+}
+
 TEST(Map3dFaceLoading, GivesNothingForAFaceThatTheSolidHasNotAndFindsNoFault) {
   for (int const face : {-1, 6, 99}) {
     auto model = CutBrick(2, 1, 1);
@@ -154,6 +210,18 @@ TEST(MapBodyThermalLoadLoading, FitsEightTermsAndWritesTheFirstHalfOfTheNodesOnl
             (AllValues{{L"83",
                         {at(1, 0, 1), at(2, 0, 1), at(2, 1, 1), at(1, 1, 1), corners[4], corners[5],
                          corners[6], corners[7]}}}));
+}
+
+TEST(MapBodyThermalLoadLoading, WritesThreeValuesForAWedgeThatIsAPieceOfABrick) {
+  auto model = CutBrick(2, 1, 1);
+  auto const nodes = model.Elem(80).Topology();
+  model.SetElem(80, Element(ElementType::Wedge6,
+                            {nodes[0], nodes[1], nodes[3], nodes[4], nodes[5], nodes[7]}));
+  // 1 + x + 2 y + 3 z at the corners of 2 by 1 by 1.
+  model.SetBodyThermalLoad(1, Temperature(ThermalType::PerNode, {1, 3, 5, 3, 4, 6, 8, 6}));
+  EXPECT_TRUE(Map(model, {{kParent, {80}}}));
+  // At (0,0,0) (1,0,0) (0,1,0): 1, 2, 3. From the fourth on those of the parent.
+  EXPECT_EQ(ValuesOf(model.BodyThermalLoad(), 8), (AllValues{{L"80", {1, 2, 3, 3, 4, 6, 8, 6}}}));
 }
 
 TEST(MapBodyThermalLoadLoading, LeavesALoadByNodeOnASolidWithFewerThanEightNodesOut) {

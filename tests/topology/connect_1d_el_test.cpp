@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "tarvex/split_connect.h"
+#include "tests/topology/private_access.h"
 #include "tests/topology/topology_support.h"
 
 namespace Tarvex::Connect1dElTest {
@@ -226,6 +227,39 @@ TEST(CConnect1dEl, SkipsAMeetingWithinARigidEndOfEitherLine) {
   }
 }
 
+TEST(CConnect1dEl, GoesOnWithTheNextLineBehindAMeetingWithinARigidEnd) {
+  CZelData model;
+  BeamAt(model, {0, 0, 0}, {10, 0, 0});
+  for (double const x : {2.0, 6.0}) BeamAt(model, {x, -1, 0}, {x, 1, 0});
+  model.SetElemOffset(1, {3, 0, 0, 0});
+  auto tool = ToolOn(model);
+  EXPECT_TRUE(tool.Do());
+  EXPECT_TRUE(tool.IsSomeSplitsSkipped());
+  EXPECT_TRUE(References(model, 2, {3, 4}));  // at 2, within the 3 of the rigid end
+  EXPECT_FALSE(model.ElemExist(1));
+  EXPECT_TRUE(References(model, 6, {7, 2}));
+  EXPECT_TRUE(References(model, 7, {1, 7}));
+  EXPECT_TRUE(IsNear(model.NodeCoor(7), {6, 0, 0}));
+}
+
+TEST(CConnect1dEl, TakesAMeetingAtTheVeryToleranceForNoEndAndForNoRigidEnd) {
+  // Met at 0.5 of 8 with an end tolerance of 0.5; and at 5 of 8 behind a rigid end of 4.5.
+  for (auto const& [at, rigid] : std::vector<std::pair<double, double>>{{0.5, 0}, {5, 4.5}}) {
+    CZelData model;
+    BeamAt(model, {0, 0, 0}, {8, 0, 0});
+    BeamAt(model, {at, -4, 0}, {at, 4, 0});
+    model.SetElemOffset(1, {rigid, 0, 0, 0});
+    auto tool = ToolOn(model);
+    tool.SetTol(0.01, 0.5);
+    EXPECT_TRUE(tool.Do());
+    EXPECT_FALSE(tool.IsSomeSplitsSkipped());
+    EXPECT_EQ(model.HighestNode(), 5);
+    EXPECT_FALSE(model.ElemExist(1));
+    EXPECT_FALSE(model.ElemExist(2));
+    EXPECT_TRUE(IsNear(model.NodeCoor(1), {0, 0, 0}));
+  }
+}
+
 // Loads and references.
 
 TEST(CConnect1dEl, TakesLoadsAndReferencesToThePiecesWhenTold) {
@@ -242,6 +276,23 @@ TEST(CConnect1dEl, TakesLoadsAndReferencesToThePiecesWhenTold) {
     EXPECT_EQ(TextOf(model.BeamLoad(1).LoadedEntities()), replace ? L"5 6" : L"1");
     EXPECT_EQ(TextOf(model.List(1)), replace ? L"3 4" : L"2");
   }
+}
+
+TEST(CConnect1dEl, LeavesMappedLoadsOnARangeAndTakesAxialOnesAlong) {
+  auto model = CrossModel();
+  Data::CBeamLoad load;
+  load.SetLoadedEntities(Elements(L"1 to 2"));
+  model.SetBeamLoad(1, load);
+  Data::CAxialLoad axial;
+  axial.SetLoadedEntities(Elements(L"1 to 2"));
+  model.SetAxialLoad(1, axial);
+  auto tool = ToolOn(model);
+  tool.SetReplaceElemRef(true);
+  EXPECT_TRUE(tool.Do());
+  EXPECT_FALSE(tool.IsAllLoadsMapped());
+  EXPECT_EQ(TextOf(model.BeamLoad(1).LoadedEntities()), L"1 to 2");
+  // 2 goes first and becomes 3 and 4, then 1 becomes 5 and 6.
+  EXPECT_EQ(TextOf(model.AxialLoad(1).LoadedEntities()), L"5 6 3 4");
 }
 
 TEST(CConnect1dEl, SaysWhenALoadCouldNotBeMapped) {
@@ -302,6 +353,48 @@ TEST(CConnect1dEl, SkipsACornerWithinAnEndZoneAndCountsTheEndToleranceAsOne) {
   auto tool = ToolOn(model);
   EXPECT_FALSE(tool.Do());
   EXPECT_TRUE(tool.IsSomeSplitsSkipped());
+}
+
+/// A line of 10 along x, and a plate with one corner on it.
+CZelData CornerModel(double at) {
+  CZelData model;
+  BeamAt(model, {0, 0, 0}, {10, 0, 0});
+  QuadAt(model, {at, 0, 0}, {at + 1, 1, 0}, {at, 2, 0}, {at - 1, 1, 0});
+  return model;
+}
+
+TEST(CConnect1dEl, SkipsACornerWithinTheRigidEndAtTheSecondNode) {
+  // Rigid from 7 on, and 0.1 to keep clear of it.
+  for (auto const& [at, cut] : std::vector<std::pair<double, bool>>{{8, false}, {6.5, true}}) {
+    auto model = CornerModel(at);
+    model.SetElemOffset(1, {0, 3, 0, 0});
+    auto tool = ToolOn(model);
+    EXPECT_EQ(tool.Do(), cut);
+    EXPECT_EQ(tool.IsSomeSplitsSkipped(), !cut);
+    EXPECT_EQ(model.ElemExist(1), !cut);
+  }
+}
+
+TEST(CConnect1dEl, PassesACornerBeyondAnEndOverWithoutAWord) {
+  for (double const at : {-0.05, 10.05}) {
+    auto model = CornerModel(at);
+    auto tool = ToolOn(model);
+    EXPECT_FALSE(tool.Do());
+    EXPECT_FALSE(tool.IsSomeSplitsSkipped());
+  }
+}
+
+TEST(CConnect1dEl, PassesTheSideOfAPlateOverThatIsShorterThanTheEndTolerance) {
+  // The line passes the first node only, from which a side of 0.05 goes.
+  for (double const end : {0.1, 0.04}) {
+    CZelData model;
+    QuadAt(model, {0, 0, 0}, {0.05, 0, 0}, {2, 2, 0}, {0, 2, 0});
+    BeamAt(model, {0, 0, -5}, {0, 0, 5});
+    auto tool = ToolOn(model);
+    tool.SetTol(0.01, end);
+    EXPECT_EQ(tool.Do(), end < 0.05);
+    EXPECT_FALSE(tool.IsSomeSplitsSkipped());
+  }
 }
 
 TEST(CConnect1dEl, LeavesALineThatPassesACornerAtADistance) {
@@ -424,6 +517,37 @@ TEST(CConnect1dEl, WalksThePerimeterOfAPlateMemberByTheElementOfItsNumber) {
     EXPECT_EQ(ToolOn(model, SelMember).Do(), !withElement);
     EXPECT_EQ(model.HighestMember(), withElement ? 2 : 4);
   }
+}
+
+TEST(CConnect1dEl, LooksForCornersAlongTheAxisOfAMemberThatLeavesItsFirstTwoNodes) {
+  // A slab with its first node on the axis of a member from (0,0,0) by (0,3,0) to (6,0,0): that
+  // runs along x, and counts as 3 long. The other sides of the slab are away from it.
+  for (auto const& [at, skipped] : std::vector<std::pair<double, bool>>{{1, false}, {2.95, true}}) {
+    CZelData model;
+    for (auto const& p :
+         Points{{at, 0, 0}, {at, -5, 0}, {6, -5, 0}, {6, -2, 0}, {0, 0, 0}, {0, 3, 0}, {6, 0, 0}})
+      NodeAt(model, p.x, p.y, p.z);
+    MemberAt(model, MembType::Slab, L"1 2 3 4");
+    MemberAt(model, MembType::Beam, L"5 6 7");
+    CZelData const before(model);
+    auto tool = ToolOn(model, SelMember);
+    EXPECT_EQ(tool.Do(), !skipped);
+    EXPECT_EQ(tool.IsSomeSplitsSkipped(), skipped);  // 2.95 is beyond 3 - 0.1
+    EXPECT_TRUE(IsUnchanged(model, before));         // members of three nodes are never cut
+  }
+}
+
+// Nodes.
+
+TEST(CConnect1dEl, MakesANodeWithTheNextNumberWhereTheOneToMoveDoesNotExist) {
+  auto model = ModelWithNodes(3);
+  CConnect1dEl tool(model);
+  EXPECT_EQ((tool.*Reach(NodeMover()))(2, {7, 8, 9}), 2);
+  EXPECT_TRUE(IsNear(model.NodeCoor(2), {7, 8, 9}));
+  EXPECT_EQ(model.HighestNode(), 3);
+  EXPECT_EQ((tool.*Reach(NodeMover()))(99, {4, 5, 6}), 4);
+  EXPECT_EQ(model.HighestNode(), 4);
+  EXPECT_TRUE(IsNear(model.NodeCoor(4), {4, 5, 6}));
 }
 
 // Kind, state, hold.

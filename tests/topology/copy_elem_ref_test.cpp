@@ -155,6 +155,15 @@ TEST(CopyElemRef, DoesNotTakeACopyThatTheSideHolds) {
   EXPECT_FALSE(Copy(model, kAllFlags));
 }
 
+TEST(CopyElemRef, LeavesTheModelAloneForAnEmptyMapSaysSoAndIsAStepAllTheSame) {
+  auto model = ModelWithBeams(20);
+  model.SetList(1, Elements(L"4 5"));
+  CZelData const before(model);
+  EXPECT_FALSE(Copy(model, kAllFlags, {}));
+  EXPECT_TRUE(IsUnchanged(model, before));
+  EXPECT_EQ(model.NumUndo(), 1);
+}
+
 TEST(CopyElemRef, IsOneStepThatCanBeUndone) {
   auto model = ModelWithBeams(20);
   for (auto const& row : LoadRows()) row.table.add(model, Elements(L"4 5"));

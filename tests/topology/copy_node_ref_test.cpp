@@ -197,6 +197,21 @@ TEST(CopyNodeRef, MakesTheLastCopyPrimaryWhereThePrimaryNodeHasNoneAndLeavesItIn
   EXPECT_TRUE(model.Rigid(2) == Rigid(15, L"14 15"));
 }
 
+TEST(CopyNodeRef, TakesForTheLastCopyThatOfTheHighestNodeAndNotTheHighestCopy) {
+  auto model = ModelWithNodes(20);
+  model.SetRigid(1, Rigid(1, L"4 5 6"));
+  EXPECT_TRUE(Copy(model, kAllFlags, {{4, 15}, {5, 14}}));
+  ASSERT_EQ(model.HighestRigid(), 2);
+  EXPECT_TRUE(model.Rigid(2) == Rigid(14, L"15 14"));
+}
+
+TEST(CopyNodeRef, DoesNotCountACopyThatDoesNotExist) {
+  auto model = ModelWithNodes(20);
+  model.SetRigid(1, Rigid(1, L"4 5"));
+  EXPECT_FALSE(Copy(model, kAllFlags, {{4, 14}, {5, 99}}));
+  EXPECT_EQ(model.HighestRigid(), 1);
+}
+
 TEST(CopyNodeRef, MakesNoRigidOfOneMappedNodeOrNone) {
   auto model = ModelWithNodes(20);
   model.SetRigid(1, Rigid(1, L"5 6"));
@@ -231,6 +246,15 @@ TEST(CopyNodeRef, CopiesAnEquationThatHasAnyMappedNode) {
   EXPECT_TRUE(model.ConstraintEqn(1) == Equation(4, 1, 2));
   EXPECT_TRUE(model.ConstraintEqn(4) == Equation(1, 2, 15));
   EXPECT_TRUE(model.ConstraintEqn(5) == Equation(14, 1, 2));
+}
+
+TEST(CopyNodeRef, LeavesTheModelAloneForAnEmptyMapSaysSoAndIsAStepAllTheSame) {
+  auto model = ModelWithNodes(20);
+  model.SetList(1, Nodes(L"4 5"));
+  CZelData const before(model);
+  EXPECT_FALSE(Copy(model, kAllFlags, {}));
+  EXPECT_TRUE(IsUnchanged(model, before));
+  EXPECT_EQ(model.NumUndo(), 1);
 }
 
 TEST(CopyNodeRef, IsOneStepThatCanBeUndone) {

@@ -188,6 +188,13 @@ TEST(MapEdgeLoading, KeepsTheLoadOnTheOthersOfItsList) {
   EXPECT_EQ(Loads(model), (AllSeen{{L"3", 1, 1, 3}, {L"80", 1, 1, 2}, {L"81", 1, 2, 3}}));
 }
 
+TEST(MapEdgeLoading, RemovesALoadWhoseListNamesNothingThatExistsAnyMore) {
+  auto model = CutPlate(2, 1);
+  model.SetEdgeLoad(1, EdgeLoad(1, 1, 3, L"70 99"));
+  EXPECT_TRUE(Map(model));
+  EXPECT_EQ(Loads(model), (AllSeen{{L"80", 1, 1, 2}, {L"81", 1, 2, 3}}));
+}
+
 TEST(MapEdgeLoading, WritesNothingWhereACoordinateOrAValueIsNotFiniteAndSaysSo) {
   double const inf = std::numeric_limits<double>::infinity();
   auto model = CutPlate(2, 1);

@@ -41,6 +41,49 @@ TEST(MapFaceLoading, MapsAPieceOfTheSameMapThatIsAParentItself) {
   EXPECT_EQ(ValuesOf(model.FaceLoad(), 1), (AllValues{{L"80 82", {5}}}));
 }
 
+/// A plate cut in two, and load panel 90 on the second half.
+CZelData PanelModel() {
+  auto model = CutPlate(2, 1);
+  model.SetLoadPanel(90, Panel({2, 3, 6, 5}));
+  return model;
+}
+
+TEST(MapFaceLoading, GivesUniformLoadsToPiecesThatAreLoadPanels) {
+  auto model = PanelModel();
+  model.SetFaceLoad(1, Pressure(FaceType::Uniform, {5}));
+  model.SetFaceThermalLoad(1, Temperature(ThermalType::Uniform, {20}));
+  EXPECT_TRUE(Map(model, {{kParent, {80, 90}}}));
+  EXPECT_EQ(ValuesOf(model.FaceLoad(), 1), (AllValues{{L"80 90", {5}}}));
+  EXPECT_EQ(ValuesOf(model.FaceThermalLoad(), 1), (AllValues{{L"80 90", {20}}}));
+}
+
+TEST(MapFaceLoading, CountsNoLoadPanelsWhereItAsksWhetherALoadIsOnAnythingStill) {
+  auto model = PanelModel();
+  model.SetFaceLoad(1, Pressure(FaceType::Uniform, {5}));
+  EXPECT_TRUE(Map(model, {{kParent, {90}}}));
+  EXPECT_EQ(model.HighestFaceLoad(), 0);
+}
+
+TEST(MapFaceLoading, GivesLoadPanelsNoLoadThatAsksForTheShapeOfAnElementAndSaysSo) {
+  for (auto const type : {FaceType::PerCorner, FaceType::Point}) {
+    auto model = PanelModel();
+    model.SetFaceLoad(1, Pressure(type, {5, 5, 5, 5}));
+    EXPECT_FALSE(Map(model, {{kParent, {80, 90}}}));
+    EXPECT_EQ(model.HighestFaceLoad(), 0);
+  }
+  auto model = PanelModel();
+  model.SetFaceThermalLoad(1, Temperature(ThermalType::PerCorner, {5}));
+  EXPECT_FALSE(Map(model, {{kParent, {90}}}));
+  EXPECT_EQ(model.HighestFaceThermalLoad(), 0);
+}
+
+TEST(MapFaceLoading, RemovesALoadWhoseListNamesNothingThatExistsAnyMore) {
+  auto model = CutPlate(2, 1);
+  model.SetFaceLoad(1, Pressure(FaceType::PerCorner, {1, 1, 1, 1}, L"70 99"));
+  EXPECT_TRUE(Map(model));
+  EXPECT_EQ(ValuesOf(model.FaceLoad(), 1), (AllValues{{L"80", {1}}, {L"81", {1}}}));
+}
+
 // Pressure by corner.
 
 TEST(MapFaceLoading, ReproducesALinearPressureAtTheCornersOfThePiecesAlsoInside) {
@@ -301,11 +344,20 @@ TEST(MapFaceThermalLoadLoading, LeavesALoadOnAnIndirectListAndSaysSo) {
 
 // All together.
 
-TEST(Map2DLoading, MapsTemperaturesAlsoWhereFaceLoadsFailed) {
+TEST(Map2DLoading, MapsEdgesAndTemperaturesAlsoWhereFaceLoadsFailed) {
   auto model = CutPlate(2, 1);
   model.SetFaceLoad(1, Pressure(FaceType::Uniform, {5}, L"all"));
+  Data::CEdgeLoad edge;
+  edge.SetLoadCase(4);
+  edge.SetEdge(1);
+  edge.SetValue(0, 1);
+  edge.SetValue(1, 3);
+  edge.SetLoadedEntities(Elements(L"70"));
+  model.SetEdgeLoad(1, edge);
   model.SetFaceThermalLoad(1, Temperature(ThermalType::Uniform, {20}));
   EXPECT_FALSE(Map(model));
+  // 1 + 2 / 2 in the middle of the edge.
+  EXPECT_EQ(ValuesOf(model.EdgeLoad(), 2), (AllValues{{L"80", {1, 2}}, {L"81", {2, 3}}}));
   EXPECT_EQ(ValuesOf(model.FaceThermalLoad(), 1), (AllValues{{L"80 81", {20}}}));
 }
 

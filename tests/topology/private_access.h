@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tarvex/data_mgr.h"
+#include "tarvex/split_connect.h"
 
 namespace Tarvex::Testing {
 
@@ -30,6 +31,12 @@ struct PieceDeviation {
   friend Pointer Reach(PieceDeviation);
 };
 template struct Reached<PieceDeviation, &CDataMgr::ElemSubElemPos>;
+
+struct NodeMover {
+  using Pointer = int (CConnect1dEl::*)(int, Vec3<double>);
+  friend Pointer Reach(NodeMover);
+};
+template struct Reached<NodeMover, &CConnect1dEl::SetCoor>;
 
 /// Calls a private member of a manager.
 template <class Tag, class... Arguments>

@@ -242,6 +242,17 @@ TEST(ReplaceNodeRef, ReplacesBothNodesOfAJoint) {
   EXPECT_EQ(model.Joint(2).ConstrainedNode(), 2);
 }
 
+TEST(ReplaceNodeRef, ReplacesOneNodeOfAJointAloneAndSaysSo) {
+  for (auto const& [old, primary, constrained] :
+       std::vector<std::tuple<int, int, int>>{{5, 9, 6}, {6, 5, 9}}) {
+    auto model = ModelWithNodes(9);
+    model.SetJoint(1, {L"", Vbool6(), 5, 6, List(SelNone, L"all")});
+    EXPECT_TRUE(Replace(model, {{old, {7, 9}}}));
+    EXPECT_EQ(model.Joint(1).PrimaryNode(), primary);
+    EXPECT_EQ(model.Joint(1).ConstrainedNode(), constrained);
+  }
+}
+
 Data::CRigid Rigid(int primary, wchar_t const* constrained) {
   return {L"", Data::LinkType::All, primary, Nodes(constrained), List(SelNone, L"all")};
 }
@@ -275,6 +286,20 @@ TEST(ReplaceNodeRef, ReplacesTheNodesOfAnEquationAndKeepsDirectionsAndFactors) {
   EXPECT_EQ(changed.PrimaryNode(1), 9);
   EXPECT_EQ(changed.Dir(1), Direction::ZZ);
   EXPECT_EQ(changed.Factor(1), -2.0);
+}
+
+TEST(ReplaceNodeRef, ReplacesTheConstrainedNodeOrOneTermOfAnEquationAloneAndSaysSo) {
+  for (auto const& [old, constrained, term] :
+       std::vector<std::tuple<int, int, int>>{{5, 9, 6}, {6, 5, 9}}) {
+    auto model = ModelWithNodes(9);
+    Data::CConstraintEqn equation;
+    equation.SetConstrainedNode(5);
+    equation.SetRhsTerm(-1, 6, Direction::Y, 0.5);
+    model.SetConstraintEqn(1, equation);
+    EXPECT_TRUE(Replace(model, {{old, {7, 9}}}));
+    EXPECT_EQ(model.ConstraintEqn(1).ConstrainedNode(), constrained);
+    EXPECT_EQ(model.ConstraintEqn(1).PrimaryNode(0), term);
+  }
 }
 
 // The result and the step.

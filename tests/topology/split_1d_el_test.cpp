@@ -137,6 +137,40 @@ TEST(CSplit1dEl, TakesTheLockOffThePieces) {
   EXPECT_FALSE(model.ElemExist(9));
 }
 
+TEST(CSplit1dEl, TakesTheLockOffExtensions) {
+  for (double const position : {-2.0, 12.0}) {
+    auto model = BeamModel();
+    auto locked = model.Elem(7);
+    locked.Lock(true);
+    model.SetElem(7, locked);
+    MemberAt(model, MembType::Beam, L"1 2");
+    model.LockMember(1, true);
+    Numbers created;
+    EXPECT_TRUE(CSplit1dEl(model).Do(kBeam, position, true, created));
+    EXPECT_TRUE(CSplit1dEl(model).Do({SelMember, 1}, position, true, created));
+    model.RemoveModule(CModule::Elem);
+    model.RemoveModule(CModule::Member);
+    EXPECT_TRUE(model.ElemExist(7));
+    EXPECT_FALSE(model.ElemExist(8));
+    EXPECT_TRUE(model.MemberExist(1));
+    EXPECT_FALSE(model.MemberExist(2));
+  }
+}
+
+TEST(CSplit1dEl, ClearsTheVectorAlsoWhereItMakesNothing) {
+  for (double const position : {0.0, 12.0}) {
+    auto model = BeamModel();
+    Numbers created{99};
+    EXPECT_TRUE(CSplit1dEl(model).Do(kBeam, position, false, created));
+    EXPECT_TRUE(created.empty());
+  }
+  auto model = BeamModel();
+  model.SetElemOffset(7, {1, 2, 0, 0});
+  Numbers created{99};
+  EXPECT_FALSE(CSplit1dEl(model).Do(kBeam, 0.5, false, created));
+  EXPECT_TRUE(created.empty());
+}
+
 // Loads and references.
 
 CZelData LoadedBeam(wchar_t const* list) {
@@ -167,6 +201,20 @@ TEST(CSplit1dEl, TakesLoadsAndReferencesToThePieces) {
   EXPECT_EQ(TextOf(model.BeamLoad(1).LoadedEntities()), L"8 9");
   EXPECT_EQ(TextOf(model.List(1)), L"3 8 9");
   EXPECT_TRUE(tool.IsAllLoadsMapped());
+}
+
+TEST(CSplit1dEl, LeavesMappedLoadsOnARangeAndTakesAxialOnesAlong) {
+  auto model = LoadedBeam(L"6 to 7");
+  Data::CAxialLoad axial;
+  axial.SetLoadedEntities(Elements(L"6 to 7"));
+  model.SetAxialLoad(1, axial);
+  CSplit1dEl tool(model);
+  tool.SetReplaceElemRef(true);
+  Numbers created;
+  EXPECT_TRUE(tool.Do(kBeam, 4, false, created));
+  EXPECT_FALSE(tool.IsAllLoadsMapped());
+  EXPECT_EQ(TextOf(model.BeamLoad(1).LoadedEntities()), L"6 to 7");
+  EXPECT_EQ(TextOf(model.AxialLoad(1).LoadedEntities()), L"6 8 9");
 }
 
 TEST(CSplit1dEl, SaysWhenALoadCouldNotBeMappedAndCutsAllTheSame) {
@@ -212,6 +260,16 @@ TEST(CSplit1dEl, SkipsACutWithinARigidEndAndLeavesTheOffsetsCleared) {
     EXPECT_TRUE(References(model, 7, {1, 2}));
     EXPECT_TRUE(model.Elem(7).Offset() == Data::COffset(0, 0, 0, 0));
   }
+}
+
+TEST(CSplit1dEl, TellsAnewAtEachRunWhetherItSkipped) {
+  auto model = OffsetBeam({1, 2, 0, 0});
+  CSplit1dEl tool(model);
+  Numbers created;
+  EXPECT_FALSE(tool.Do(kBeam, 0.5, false, created));
+  EXPECT_TRUE(tool.IsSomeSplitsSkipped());
+  EXPECT_TRUE(tool.Do(kBeam, 4, false, created));
+  EXPECT_FALSE(tool.IsSomeSplitsSkipped());
 }
 
 TEST(CSplit1dEl, CutsAtTheVeryEndOfARigidEnd) {
@@ -365,6 +423,35 @@ TEST(CSplit1dEl, DoesNotExtendAMemberUnlessTold) {
   EXPECT_TRUE(tool.Do(kMember, 12, false, created));
   EXPECT_EQ(model.HighestMember(), 1);
   EXPECT_TRUE(model.NodeExist(tool.SplitNode()));
+}
+
+TEST(CSplit1dEl, MeasuresAMemberFromNodeToNodeAndKeepsItsOffsets) {
+  Data::COffset const offset(1, 2, 0.3, 0);
+  // 9 lies beyond the 7 between its rigid ends, and 0.5 within one of them: both are places within.
+  for (double const position : {9.0, 0.5}) {
+    auto model = MemberModel();
+    auto member = model.Member(1);
+    member.SetOffset(offset);
+    model.SetMember(1, member);
+    CSplit1dEl tool(model);
+    Numbers created;
+    EXPECT_TRUE(tool.Do(kMember, position, true, created));
+    EXPECT_TRUE(created.empty());
+    EXPECT_FALSE(tool.IsSomeSplitsSkipped());
+    EXPECT_TRUE(model.Member(1).Offset() == offset);
+    EXPECT_TRUE(IsNear(model.NodeCoor(tool.SplitNode()), {position, 0, 0}));
+  }
+}
+
+TEST(CSplit1dEl, TakesTheSecondNodeOfAMemberForItsEnd) {
+  auto model = MemberModel();
+  int const passed = NodeAt(model, 4, 0, 0);
+  MemberAt(model, MembType::Beam, L"1 3 2");
+  CSplit1dEl tool(model);
+  Numbers created;
+  EXPECT_TRUE(tool.Do({SelMember, 2}, 10, true, created));  // its whole length
+  EXPECT_EQ(tool.SplitNode(), passed);
+  EXPECT_TRUE(created.empty());
 }
 
 TEST(CSplit1dEl, LeavesAMemberWithoutLengthAlone) {

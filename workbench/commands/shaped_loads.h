@@ -10,7 +10,7 @@
 
 namespace Tarvex::Workbench {
 
-/// Whether a list is plain numbers and nothing else.
+/// Whether a list is plain numbers, so that a load on it can be mapped.
 bool IsPlainList(Data::CEntList const& list);
 
 /// Writes the numbers of the elements in the place of ranges and words in the lists of such loads
