@@ -11,7 +11,16 @@ using Testing::kStaticTask;
 using Testing::OpenEuro;
 
 OpenEuro AllFamilies(CZelData& model) {
-  return Testing::OnTasks(model, AllTasks(model), Testing::kAllFamilies);
+  OpenEuro generator;
+  generator.SetData(&model);
+  generator.SetTasks(AllTasks(model));
+  generator.SetUlsPersistent(true);
+  generator.SetUlsAccidental(true);
+  generator.SetUlsSeismic(true);
+  generator.SetSlsCharacteristic(true);
+  generator.SetSlsFrequent(true);
+  generator.SetSlsQuasiPerm(true);
+  return generator;
 }
 
 using Counts = std::array<long long, 6>;

@@ -94,11 +94,16 @@ std::string CommandWord(std::vector<std::string> const& words) {
   return {};
 }
 
-Arguments TakeArguments(Command const& command, Values const& values) {
+/// The library takes any word behind an option for its value, other options too.
+Arguments TakeArguments(CLI::App const& app, Command const& command, Values const& values) {
   std::map<std::string, std::string> given;
   auto text = values.texts.begin();
   for (auto const& [option, name] : values.given) {
-    if (option->count() > 0) given[name] = *text;
+    if (option->count() > 0) {
+      if (text->starts_with("--") && app.get_option_no_throw(*text) != nullptr)
+        throw UsageError(name + ": a value is missing before " + *text);
+      given[name] = *text;
+    }
     ++text;
   }
   return {command.options, given};
@@ -140,7 +145,7 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
   } catch (CLI::ParseError const& fault) {
     throw UsageError(word.empty() ? "give a command, see tarvex --help" : Explain(fault));
   }
-  invocation.arguments = TakeArguments(*invocation.command, values);
+  invocation.arguments = TakeArguments(*chosen, *invocation.command, values);
   invocation.arguments.SetModelFile(invocation.model);
   CheckDestination(invocation);
   return invocation;
@@ -160,7 +165,7 @@ RecipeStep ParseRecipeLine(std::vector<std::string> const& words) {
   } catch (CLI::ParseError const& fault) {
     throw UsageError(Explain(fault));
   }
-  return {&command, TakeArguments(command, values)};
+  return {&command, TakeArguments(app, command, values)};
 }
 
 bool AsksForJson(std::vector<std::string> const& words) {

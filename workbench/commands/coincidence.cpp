@@ -127,7 +127,7 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
 void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   CZelData const before(model);
   auto const items = SelectByOptions(model, SelNode, arguments, result);
-  auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
+  auto const others = Select(model, SelNode, arguments.Text("--with"));
   double const tolerance = ToleranceOf(model, arguments, result);
   auto tool = SearchIn(model, Union(items, others), tolerance, arguments.Integer("--stage"));
   tool.SetOption(OptionOf(arguments.Text("--properties")));
@@ -145,7 +145,7 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
 
 void JoinNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const items = SelectByOptions(model, SelNode, arguments, result);
-  auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
+  auto const others = Select(model, SelNode, arguments.Text("--with"));
   auto tool = SearchIn(model, Union(items, others), ToleranceOf(model, arguments, result),
                        arguments.Integer("--stage"));
   tool.SetOption(CReduceCoinc::OptionJoint);

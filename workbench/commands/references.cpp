@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <array>
 
-#include "store/record/member.h"
-#include "store/record/rigid.h"
 #include "tarvex/data_mgr.h"
 #include "workbench/commands/errors.h"
+#include "workbench/commands/kept_references.h"
 #include "workbench/commands/number_map.h"
 #include "workbench/commands/selection.h"
+#include "workbench/commands/shape_warnings.h"
 #include "workbench/commands/unmapped_loads.h"
 
 namespace Tarvex::Workbench {
@@ -40,57 +40,61 @@ constexpr std::array kCopyOptions{
 constexpr std::array kMapLoadsOptions{
     Option{"--kind", "element|member", ValueKind::Choice, "element", "what the numbers are"}, kMap};
 
+/// Reads the map that is named. Throws UsageError when it would be read from behind the model.
+NumberLists MapOf(Arguments const& arguments, int fewest, int most) {
+  auto const& file = arguments.Text("--map");
+  if (file == "-" && arguments.ModelFile() == "-")
+    throw UsageError("--map: the model is on standard input, name a file");
+  return ReadNumberMap(file, fewest, most);
+}
+
 std::set<int> OldNumbers(NumberLists const& numbers) {
   std::set<int> old;
   for (auto const& [number, now] : numbers) old.insert(number);
   return old;
 }
 
-/// Reports what still names a node that was to be replaced.
-void ReportKeptNodes(CZelData const& model, NumberLists const& numbers, bool entities,
-                     CommandResult& result) {
-  auto const report = [&](char const* table, int n, int node) {
-    result.undone.push_back({table, n, "it still names node " + std::to_string(node)});
-  };
-  auto const isOld = [&](int node) {
-    auto const found = numbers.find(node);
+/// Whether a number was to be replaced, and not by itself among others.
+std::function<bool(int)> IsOldIn(NumberLists const& numbers) {
+  return [&numbers](int number) {
+    auto const found = numbers.find(number);
     return found != numbers.end() &&
-           std::find(found->second.begin(), found->second.end(), node) == found->second.end();
+           std::find(found->second.begin(), found->second.end(), number) == found->second.end();
   };
-  auto const reportTopology = [&](char const* table, int n, auto const& nodes) {
-    auto const kept = std::find_if(nodes.begin(), nodes.end(), isOld);
-    if (kept != nodes.end()) report(table, n, *kept);
-  };
-  for (auto const& [n, panel] : model.LoadPanels())
-    reportTopology("LoadPanel", static_cast<int>(n), panel.Topology());
-  for (auto const& [n, element] : model.Elem())
-    if (entities) reportTopology("Elem", static_cast<int>(n), element.Topology());
-  for (auto const& [n, member] : model.Member())
-    if (entities) reportTopology("Member", static_cast<int>(n), member.Topo().Nodes());
-  for (int n = 1; n <= model.HighestRigid(); ++n)
-    if (isOld(model.Rigid(n).PrimaryNode())) report("Rigid", n, model.Rigid(n).PrimaryNode());
 }
 
+bool IsEntityTable(std::string_view table) { return table == "Elem" || table == "Member"; }
+
 void ReplaceNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
-  auto const numbers = ReadNumberMap(arguments.Text("--map"), 0, -1);
+  auto const numbers = MapOf(arguments, 0, -1);
   RequireEntities(model, SelNode, numbers, false);
   bool const entities = !arguments.Flag("--no-entities");
   result.did = CDataMgr(model).ReplaceNodeRef(numbers, entities);
-  ReportKeptNodes(model, numbers, entities, result);
+  KeptReferences kept{"Node", "node", IsOldIn(numbers)};
+  if (!entities) kept.mayStay = IsEntityTable;
+  ReportKeptReferences(model, kept, result);
 }
 
-/// A parent among its own pieces, or among those of another one, would be mapped over again.
-void RequireOldApart(NumberLists const& numbers) {
-  for (auto const& [old, now] : numbers)
-    for (int const number : now)
+/// A parent among its own pieces, or among those of another one, would be mapped over again, and so
+/// would a piece that comes twice.
+void RequireApart(NumberLists const& numbers) {
+  for (auto const& [old, now] : numbers) {
+    std::set<int> pieces;
+    for (int const number : now) {
       if (numbers.contains(number))
         throw Refusal("number " + std::to_string(number) + " is an old and a new one");
+      if (!pieces.insert(number).second)
+        throw Refusal("number " + std::to_string(number) + " is twice among the new ones of " +
+                      std::to_string(old));
+    }
+  }
 }
 
 bool MapLoads(CZelData& model, SelType kind, NumberLists const& numbers, CommandResult& result) {
   RequireEntities(model, kind, numbers, true);
-  RequireOldApart(numbers);
+  RequireApart(numbers);
   auto const unmappable = FindUnmappableLoads(model, kind, OldNumbers(numbers));
+  if (kind == SelElement) WarnOfShapes(model, numbers, result);
   CZelData const before(model);
   CDataMgr const manager(model);
   bool all = manager.MapBeamLoading(kind, numbers);
@@ -104,16 +108,20 @@ bool MapLoads(CZelData& model, SelType kind, NumberLists const& numbers, Command
 }
 
 void ReplaceElements(CZelData& model, Arguments const& arguments, CommandResult& result) {
-  auto const numbers = ReadNumberMap(arguments.Text("--map"), 0, -1);
+  auto const numbers = MapOf(arguments, 0, -1);
   RequireEntities(model, SelElement, numbers, false);
   bool const mapLoads = arguments.Flag("--map-loads");
+  CZelData const before(model);
   if (mapLoads) result.did = MapLoads(model, SelElement, numbers, result);
   if (CDataMgr(model).ReplaceElemRef(numbers, !mapLoads)) result.did = true;
+  if (mapLoads) ReportForces(before, model, result);
+  // The elements themselves stay with their members until they are deleted.
+  ReportKeptReferences(model, {"Elem", "element", IsOldIn(numbers), IsEntityTable}, result);
 }
 
 void CopyReferences(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
-  auto const numbers = ReadNumberMap(arguments.Text("--map"), 1, 1);
+  auto const numbers = MapOf(arguments, 1, 1);
   RequireEntities(model, kind, numbers, false);
   CDataMgr::NumberMap copies;
   for (auto const& [number, copy] : numbers) copies[number] = copy.front();
@@ -128,13 +136,17 @@ void CopyReferences(CZelData& model, Arguments const& arguments, CommandResult& 
 
 void RunMapLoads(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
-  result.did = MapLoads(model, kind, ReadNumberMap(arguments.Text("--map"), 0, -1), result);
+  CZelData const before(model);
+  result.did = MapLoads(model, kind, MapOf(arguments, 0, -1), result);
+  ReportForces(before, model, result);
 }
 
 constexpr std::array kReferenceUpdateCommands{
-    Command{"replace-nodes", "put new nodes in the place of old ones in all that names them",
+    Command{"replace-nodes",
+            "put new nodes in the place of old ones; what still names an old one is told",
             kReplaceNodesOptions, CommandKind::Changes, &ReplaceNodes},
-    Command{"replace-elements", "put new elements in the place of old ones in all that names them",
+    Command{"replace-elements",
+            "put new elements in the place of old ones; what still names an old one is told",
             kReplaceElementsOptions, CommandKind::Changes, &ReplaceElements},
     Command{"copy-references",
             "put the copies of nodes or elements beside them in all that names "

@@ -19,12 +19,6 @@ bool NamesAny(CZelData const& model, CEntList const& list, Util::CSet const& ele
                      [&](int const n) { return elements.IsItemIncluded(n); });
 }
 
-bool IsPlainList(CEntList const& list) {
-  int count = 0;
-  Util::CSet numbers;
-  return list.CheckSimpleList(count, numbers) && count == list.NumWord();
-}
-
 bool HasShape(Data::CFaceLoad const& load) {
   return load.TypeOf() != Data::CFaceLoad::Load2D::Uniform;
 }
@@ -67,6 +61,12 @@ void Find(std::vector<Load> const& table, char const* name, CZelData const& mode
 }
 
 }  // namespace
+
+bool IsPlainList(CEntList const& list) {
+  int count = 0;
+  Util::CSet numbers;
+  return list.CheckSimpleList(count, numbers) && count == list.NumWord();
+}
 
 void WriteOutShapedLoads(CZelData& model, Util::CSet const& elements) {
   WriteOut(model, model.FaceLoad(), elements,

@@ -7,6 +7,7 @@
 #include "store/record/member.h"
 #include "tarvex/split_connect.h"
 #include "workbench/commands/errors.h"
+#include "workbench/commands/kept_references.h"
 #include "workbench/commands/selection.h"
 #include "workbench/commands/unlisted_pieces.h"
 #include "workbench/commands/unmapped_loads.h"
@@ -34,9 +35,14 @@ constexpr std::array kSplitOptions{
     kEntities,
     kLineKind,
     Option{"--at", "L", ValueKind::Text, "",
-           "distance of the cut from the first node in m; below 0 or beyond the end it is outside"},
+           "distance of the cut from the first node in m; below 0 or beyond the end it is outside; "
+           "there, as within a member, only a node is made"},
     Option{"--extend", "", ValueKind::Flag, "false", "extend to a place that is outside"},
-    kCoincidence,
+    Option{
+        "--coincidence", "L", ValueKind::Number, "0",
+        "a node within this distance in m is taken instead of a new one; so far must a cut be from "
+        "a rigid offset",
+        0},
     kNoReferences};
 constexpr std::array kConnectOptions{
     kEntities,
@@ -62,8 +68,9 @@ char const* WhyNotSplit(CZelData const& model, SEntRef ref) {
                             : "it is no 1D entity";
 }
 
-/// Warns of what an element that is still there has lost, and of a new one without length.
-void WarnOfRemains(CZelData const& model, int element, bool wasOffset,
+/// Warns of what an element that is still there has lost, of a new one without length, and of rigid
+/// ends at a cut.
+void WarnOfRemains(CZelData const& model, int element, bool wasOffset, int node,
                    std::vector<int> const& created, CommandResult& result) {
   auto const warn = [&](char const* code, int n, char const* text) {
     result.warnings.push_back({code, "Elem", n, "element " + std::to_string(n) + text});
@@ -73,6 +80,30 @@ void WarnOfRemains(CZelData const& model, int element, bool wasOffset,
   for (int const n : created)
     if (model.Elem(n).Topo(0) == model.Elem(n).Topo(1))
       warn("no-length", n, " has both its ends on the new node");
+  if (model.ElemExist(element)) return;
+  for (int const n : created) {
+    int const end = model.Elem(n).Topo(0) == node ? 0 : 1;
+    if (model.Elem(n).Offset().X(end) != 0)
+      warn("offset-kept", n, " keeps an axial offset at the cut, and no load there");
+  }
+}
+
+/// Warns of a place that gave a node and nothing else.
+void WarnOfNodeAlone(CZelData const& model, SEntRef ref, int node, CommandResult& result) {
+  if (node == model.EntTopo(ref, 0) || node == model.EntTopo(ref, 1)) return;
+  result.warnings.push_back({"node-alone", LineTable(ref.type), ref.num,
+                             SelTypeLabel(ref.type).ToUtf8() + " " + std::to_string(ref.num) +
+                                 " was neither cut nor extended: node " + std::to_string(node) +
+                                 " is at the place"});
+}
+
+/// Reports what still names elements that are gone.
+void ReportGoneElements(CZelData const& before, CZelData const& model, CommandResult& result) {
+  ReportKeptReferences(
+      model,
+      {"Elem", "element",
+       [&](int n) { return before.VariantElementExist(n) && !model.VariantElementExist(n); }},
+      result);
 }
 
 /// Cuts one entity. @return its row of the result; empty when it could not be cut.
@@ -80,7 +111,7 @@ Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& ar
               CommandResult& result) {
   bool const references = !arguments.Flag("--no-references");
   auto const unmappable = references && ref.type == SelElement
-                              ? FindUnmappableLoads(model, SelElement, {ref.num})
+                              ? FindUnmappableLineLoads(model, SelElement, {ref.num})
                               : std::vector<Undone>();
   CSplit1dEl tool(model);
   tool.SetReplaceElemRef(references);
@@ -90,13 +121,14 @@ Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& ar
   bool const wasOffset = isElement && model.EntIsOffset(ref);
   bool const done =
       model.EntIs1D(ref) && tool.Do(ref, position, arguments.Flag("--extend"), created);
-  if (isElement) WarnOfRemains(model, ref.num, wasOffset, created, result);
+  if (isElement) WarnOfRemains(model, ref.num, wasOffset, tool.SplitNode(), created, result);
   if (!done) {
     result.undone.push_back({LineTable(ref.type), ref.num,
                              tool.IsSomeSplitsSkipped() ? "the place is within a rigid offset"
                                                         : WhyNotSplit(model, ref)});
     return {};
   }
+  if (created.empty()) WarnOfNodeAlone(model, ref, tool.SplitNode(), result);
   ReportUnmapped(unmappable, tool.IsAllLoadsMapped(), result);
   return {{"number", ref.num}, {"node", tool.SplitNode()}, {"created", created}};
 }
@@ -106,18 +138,26 @@ void Split(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
   auto const set = SelectByOptions(model, kind, arguments, result);
   CZelData const before(model);
+  bool const references = !arguments.Flag("--no-references");
+  bool const all = arguments.Text("--list") == kEntities.preset;
+  bool extended = false;
   Json rows = Json::array();
   for (int const n : set) {
+    if (all && !model.EntIs1D({kind, n})) continue;
     auto row = SplitOne(model, {kind, n}, position, arguments, result);
     if (row.empty()) continue;
     result.text += SelTypeLabel(kind).ToUtf8() + " " + std::to_string(n) + ": node " +
                    std::to_string(row.at("node").get<int>()) + "\n";
+    extended = extended || (!row.at("created").empty() && model.EntExist({kind, n}));
     rows.push_back(std::move(row));
   }
   result.did = !(model == before);
   result.result = std::make_shared<Json>(Json{{"splits", std::move(rows)}});
   result.tolerances.push_back({"coincidence", arguments.Number("--coincidence"), "m"});
   WarnOfUnlistedPieces(before, model, result);
+  if (!references) return;
+  ReportGoneElements(before, model, result);
+  if (!extended) ReportForces(before, model, result);  // an extension bears loads of its own
 }
 
 void Connect(CZelData& model, Arguments const& arguments, CommandResult& result) {
@@ -132,12 +172,18 @@ void Connect(CZelData& model, Arguments const& arguments, CommandResult& result)
   tool.SetCoincidenceTol(arguments.Number("--coincidence"));
   tool.SetReplaceElemRef(references);
   result.did = tool.Do();
-  std::set<int> cut;
-  for (int const n : set)
-    if (!model.EntExist({kind, n})) cut.insert(n);
-  ReportUnmapped(FindUnmappableLoads(before, kind, cut), tool.IsAllLoadsMapped(), result);
+  if (!tool.IsAllLoadsMapped()) {
+    std::set<int> cut;
+    for (int const n : set)
+      if (!model.EntExist({kind, n})) cut.insert(n);
+    for (int n = before.HighestEnt(kind) + 1; n <= model.HighestEnt(kind); ++n)
+      if (!model.EntExist({kind, n})) cut.insert(n);  // a piece that was cut again
+    ReportUnmapped(FindUnmappableLineLoads(before, kind, cut), false, result);
+  }
   if (tool.IsSomeSplitsSkipped()) {
-    result.messages.push_back("some meetings are within a rigid offset and were left alone");
+    result.messages.push_back(
+        "some meetings were left alone: they are within a rigid offset, or a corner of a plate is "
+        "nearer than --end-tol to an end");
     result.lookAt = true;
   }
   if (kind == SelMember && references && result.did)
@@ -147,6 +193,9 @@ void Connect(CZelData& model, Arguments const& arguments, CommandResult& result)
   result.tolerances.push_back({"end", arguments.Number("--end-tol"), "m"});
   result.tolerances.push_back({"coincidence", arguments.Number("--coincidence"), "m"});
   WarnOfUnlistedPieces(before, model, result);
+  if (!references) return;
+  ReportGoneElements(before, model, result);
+  ReportForces(before, model, result);
 }
 
 constexpr std::array kSplitConnectCommands{

@@ -4,17 +4,13 @@
 #include "store/record/beam_loads.h"
 #include "store/record/body_loads.h"
 #include "store/record/face_loads.h"
+#include "workbench/commands/shaped_loads.h"
+#include "workbench/report/totals.h"
 
 namespace Tarvex::Workbench {
 namespace {
 
 using Data::CEntList;
-
-bool IsPlain(CEntList const& list) {
-  int count = 0;
-  Util::CSet set;
-  return list.CheckSimpleList(count, set) && count == list.NumWord();
-}
 
 bool IsOnAny(CZelData const& model, CEntList const& list, SelType kind,
              std::set<int> const& numbers) {
@@ -40,7 +36,7 @@ void FindIn(std::vector<Load> const& loads, char const* table, CZelData const& m
     ++n;
     auto const& list = load.LoadedEntities();
     if (!IsOnAny(model, list, kind, parents)) continue;
-    if (!IsPlain(list))
+    if (!IsPlainList(list))
       found.push_back({table, n, "its list is more than plain numbers: it is left as it is"});
     else if (kind == SelMember && !IsForMembers(load))
       found.push_back({table, n, "members take uniform loads only: it is taken off the member"});
@@ -49,11 +45,17 @@ void FindIn(std::vector<Load> const& loads, char const* table, CZelData const& m
 
 }  // namespace
 
-std::vector<Undone> FindUnmappableLoads(CZelData const& model, SelType kind,
-                                        std::set<int> const& parents) {
+std::vector<Undone> FindUnmappableLineLoads(CZelData const& model, SelType kind,
+                                            std::set<int> const& parents) {
   std::vector<Undone> found;
   FindIn(model.BeamLoad(), "BeamLoad", model, kind, parents, found);
   FindIn(model.BeamDist(), "BeamDist", model, kind, parents, found);
+  return found;
+}
+
+std::vector<Undone> FindUnmappableLoads(CZelData const& model, SelType kind,
+                                        std::set<int> const& parents) {
+  auto found = FindUnmappableLineLoads(model, kind, parents);
   if (kind == SelMember) return found;
   FindIn(model.FaceLoad(), "FaceLoad", model, kind, parents, found);
   FindIn(model.EdgeLoad(), "EdgeLoad", model, kind, parents, found);
@@ -68,8 +70,18 @@ void ReportUnmapped(std::vector<Undone> const& loads, bool allMapped, CommandRes
   result.undone.insert(result.undone.end(), loads.begin(), loads.end());
   if (!loads.empty()) return;
   result.messages.push_back(
-      "some loads could not be mapped: a value or a co-ordinate is not usable");
+      "some loads could not be mapped: a value or a co-ordinate is not usable, a piece reaches "
+      "beyond its member, or a load panel is to take more than a uniform load");
   result.lookAt = true;
+}
+
+void ReportForces(CZelData const& before, CZelData const& model, CommandResult& result) {
+  for (auto const& change : FindTotalChanges(before, model).cases) {
+    if (!IsForceChanged(change)) continue;
+    result.messages.push_back("load case " + std::to_string(change.loadCase) +
+                              ": its total force is not what it was");
+    result.lookAt = true;
+  }
 }
 
 }  // namespace Tarvex::Workbench

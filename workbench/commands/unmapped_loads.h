@@ -14,8 +14,15 @@ namespace Tarvex::Workbench {
 std::vector<Undone> FindUnmappableLoads(CZelData const& model, SelType kind,
                                         std::set<int> const& parents);
 
+/// Those among them on lines: what cutting them maps.
+std::vector<Undone> FindUnmappableLineLoads(CZelData const& model, SelType kind,
+                                            std::set<int> const& parents);
+
 /// Reports the loads, or, where there are none and a mapping failed all the same, that some could
 /// not be mapped.
 void ReportUnmapped(std::vector<Undone> const& loads, bool allMapped, CommandResult& result);
+
+/// Reports the load cases whose force is not what it was, whichever rule took it.
+void ReportForces(CZelData const& before, CZelData const& model, CommandResult& result);
 
 }  // namespace Tarvex::Workbench

@@ -31,6 +31,10 @@ bool IsClose(Vec3<double> const& a, Vec3<double> const& b) {
 
 }  // namespace
 
+bool IsForceChanged(TotalChange const& change) {
+  return !IsClose(change.before.force, change.after.force);
+}
+
 TotalChanges FindTotalChanges(CZelData const& before, CZelData const& after) {
   TotalChanges changes;
   auto old = SumLoads(before).byCase;

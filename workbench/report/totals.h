@@ -24,6 +24,9 @@ struct TotalChanges {
   std::optional<std::pair<double, double>> mass;  ///< before and after, where they differ
 };
 
+/// Whether it is the force that differs, and not the moment alone.
+bool IsForceChanged(TotalChange const& change);
+
 /// Compares two models. Differences within rounding of the sums count as none.
 TotalChanges FindTotalChanges(CZelData const& before, CZelData const& after);
 

@@ -1,5 +1,10 @@
 #include "workbench/commands/references.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <set>
+
 #include "tests/workbench/run.h"
 
 namespace Tarvex::ReferencesTest {
@@ -140,7 +145,126 @@ TEST_F(ReferencesCommand, RefusesNumbersThatDoNotExist) {
   EXPECT_EQ(text(RunOn({"map-loads"}, "98 8\n", 3)), "element 98 does not exist");
   EXPECT_EQ(text(RunOn({"map-loads", "--kind", "member"}, "9 1\n", 3)), "member 9 does not exist");
   EXPECT_EQ(text(RunOn({"map-loads"}, "7 7 8\n", 3)), "number 7 is an old and a new one");
+  EXPECT_EQ(text(RunOn({"map-loads"}, "7 8 9 9\n", 3)),
+            "number 9 is twice among the new ones of 7");
   EXPECT_FALSE(Exists("out.json"));
+}
+
+TEST_F(ReferencesCommand, ReplaceNodesReportsAllThatStillNamesTheOldNode) {
+  // With nothing in its place, lists lose the node; what names one node alone keeps it.
+  auto text = Model();
+  text.insert(text.find(R"("BeamLoad")"), R"("Assembly": [{"n": 1, "topology": [2, 4, 1]}],
+"InfluenceNode": [{"node": 2}],
+)");
+  auto const undone =
+      RunOn({"replace-nodes", "--no-entities"}, "2\n", 1, text).at("data").at("undone");
+  std::set<std::string> tables;
+  for (auto const& each : undone) {
+    EXPECT_EQ(each.at("why"), "it still names node 2");
+    tables.insert(each.at("table"));
+  }
+  EXPECT_EQ(tables,
+            (std::set<std::string>{"LoadPanel", "Assembly", "InfluenceNode", "Rigid", "Joint"}));
+}
+
+TEST_F(ReferencesCommand, ReplaceElementsReportsWhatStillNamesTheOldElement) {
+  auto text = Model();
+  text.insert(text.find(R"("BeamLoad")"), R"("InfluenceBeam": [{"elem": 7}],
+)");
+  auto const undone = RunOn({"replace-elements"}, "7 8 9\n", 1, text).at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0),
+            Json({{"table", "InfluenceBeam"}, {"number", 1}, {"why", "it still names element 7"}}));
+}
+
+/// Texts of the warnings of a report, and what it says of forces.
+std::vector<std::string> Codes(Json const& report) {
+  std::vector<std::string> codes;
+  for (auto const& warning : report.at("warnings")) codes.push_back(warning.at("code"));
+  return codes;
+}
+constexpr char const* kForceOfCase1 = "load case 1: its total force is not what it was";
+
+TEST_F(ReferencesCommand, MapLoadsReportsAPointLoadThatAPieceRunningBackwardsLoses) {
+  auto text = Model();
+  text.replace(text.find(R"("topology": [3, 2]})"), 19, R"("topology": [2, 3]})");
+  text.replace(text.find(R"("type": 3, "value": [0, 10])"), 27,
+               R"("loadCase": 1, "type": 1, "direction": 3, "value": [7, 0], "pos": [6, 0])");
+  for (auto const* command : {"map-loads", "replace-elements"}) {
+    std::vector<std::string> words{command};
+    if (words[0] == "replace-elements") words.emplace_back("--map-loads");
+    auto const report = RunOn(words, "7 8 9\n", 1, text);
+    EXPECT_EQ(Codes(report), std::vector<std::string>{"runs-backwards"});
+    EXPECT_EQ(report.at("data").at("messages"), Json({kForceOfCase1}));
+  }
+}
+
+TEST_F(ReferencesCommand, MapLoadsReportsADistortionThatAPieceRunningBackwardsLoses) {
+  auto text = Model();
+  text.replace(text.find(R"("topology": [3, 2]})"), 19, R"("topology": [2, 3]})");
+  text.insert(text.find(R"("BeamLoad")"),
+              R"("BeamDist": [{"loadedEntities": {"kind": 2, "text": "7"}, "pos": 6}],
+)");
+  EXPECT_EQ(Codes(RunOn({"map-loads"}, "7 8 9\n", 1, text)),
+            std::vector<std::string>{"runs-backwards"});
+}
+
+TEST_F(ReferencesCommand, MapLoadsWarnsOfPressuresByCornerOnSolids) {
+  // A box of 2 by 1 by 1 cut at x = 1; its pieces are numbered as it is.
+  std::string text = Testing::kHeader + ",\"Node\": [";
+  for (int n = 1; n <= 12; ++n) {
+    auto const at = [n](int step, int count) { return std::to_string((n - 1) / step % count); };
+    text += (n == 1 ? "" : ",") + ("{\"n\": " + std::to_string(n)) + ", \"position\": [" +
+            at(1, 3) + "," + at(3, 2) + "," + at(6, 2) + "]}";
+  }
+  text += R"(], "Elem": [{"n": 70, "type": 12, "topology": [1, 3, 6, 4, 7, 9, 12, 10]},
+{"n": 80, "type": 12, "topology": [1, 2, 5, 4, 7, 8, 11, 10]},
+{"n": 81, "type": 12, "topology": [2, 3, 6, 5, 8, 9, 12, 11]}],
+"BodyFaceLoad": [{"loadedEntities": {"kind": 2, "text": "70"}, "type": 2, "face": 0,
+"value": [0, 0, 1, 1]}]})";
+  auto const report = RunOn({"map-loads"}, "70 80 81\n", 1, text);
+  EXPECT_EQ(Codes(report), std::vector<std::string>{"corner-pressure"});
+}
+
+TEST_F(ReferencesCommand, MapLoadsGivesUniformPressuresToLoadPanelsAndReportsOnesOnThemAlone) {
+  auto text = Model();
+  text.replace(text.find(R"({"kind": 2, "text": "20"}, "type": 1)"), 36,
+               R"({"kind": 2, "text": "20"}, "loadCase": 1, "direction": 3, "type": 1)");
+  RunOn({"map-loads"}, "20 21 30\n", 1, text);  // the panel is as large as both halves
+  EXPECT_EQ(LoadText("FaceLoad", 0), "21 30");
+  auto const report = RunOn({"map-loads"}, "20 30\n", 1, text);
+  EXPECT_EQ(Codes(report), std::vector<std::string>{"panels-alone"});
+  EXPECT_EQ(report.at("data").at("messages"), Json({kForceOfCase1}));
+}
+
+TEST_F(ReferencesCommand, MapLoadsReportsThatLoadsOfLoadPanelsStay) {
+  auto const undone = RunOn({"map-loads"}, "30 21 22\n", 1).at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0).at("table"), "LoadPanel");
+  EXPECT_EQ(undone.at(0).at("why"), "loads of load panels are not mapped");
+}
+
+TEST_F(ReferencesCommand, RefusesAModelAndAMapThatAreBothOnStandardInput) {
+  int const kept = dup(STDIN_FILENO);
+  int const file = open(Write("in.json", Model()).c_str(), O_RDONLY | O_CLOEXEC);
+  dup2(file, STDIN_FILENO);
+  auto const result = RunTarvex({"map-loads", "-", "--map", "-", "--dry-run"});
+  dup2(kept, STDIN_FILENO);
+  for (int const each : {kept, file}) close(each);
+  EXPECT_EQ(result.exit, 2);
+  EXPECT_NE(result.err.find("--map: the model is on standard input, name a file"),
+            std::string::npos)
+      << result.err;
+}
+
+TEST_F(ReferencesCommand, TakesNoOptionForAValue) {
+  auto const model = Write("in.json", Model());
+  for (auto const* command : {"map-loads", "replace-nodes"}) {
+    auto const result = RunTarvex({command, model, "--map", "--dry-run"});
+    EXPECT_EQ(result.exit, 2);
+    EXPECT_NE(result.err.find("--map: a value is missing before --dry-run"), std::string::npos)
+        << result.err;
+  }
 }
 
 TEST_F(ReferencesCommand, TellsWhereAMapIsFaulty) {

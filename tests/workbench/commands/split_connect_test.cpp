@@ -79,6 +79,75 @@ TEST_F(SplitConnectCommand, SplitWarnsOfOffsetsThatAreGoneWhereItDidNotCut) {
                                                {"text", "element 8 has lost its offsets"}}));
 }
 
+TEST_F(SplitConnectCommand, SplitReportsRigidEndsAtTheCutAndTheForceTheyTake) {
+  auto text = Model();
+  // 10 N/m on the 6 less 1 of beam 8; both pieces keep the offset, so that 9 runs from 1 to 4 and
+  // 10 from 4 + 1 on: 10 N are gone.
+  text.replace(text.find(R"("text": "7"}, "type": 3, "value": [0, 10])"), 41,
+               R"("text": "8"}, "loadCase": 1, "type": 2, "direction": 3, "value": [10, 0])");
+  auto const report = RunOn({"split", "--list", "8", "--at", "4"}, 1, text);
+  ASSERT_EQ(report.at("warnings").size(), 1);
+  EXPECT_EQ(report.at("warnings").at(0),
+            Json({{"code", "offset-kept"},
+                  {"table", "Elem"},
+                  {"number", 10},
+                  {"text", "element 10 keeps an axial offset at the cut, and no load there"}}));
+  EXPECT_EQ(report.at("data").at("messages"),
+            Json({"load case 1: its total force is not what it was"}));
+}
+
+TEST_F(SplitConnectCommand, SplitSaysThatAPlaceOutsideOrWithinAMemberGaveANodeAlone) {
+  auto const report = RunOn({"split", "--list", "7", "--at", "12"});
+  ASSERT_EQ(report.at("warnings").size(), 1);
+  EXPECT_EQ(report.at("warnings").at(0).at("code"), "node-alone");
+  EXPECT_EQ(report.at("warnings").at(0).at("text"),
+            "element 7 was neither cut nor extended: node 5 is at the place");
+  auto const member = RunOn({"split", "--kind", "member", "--list", "1", "--at", "4"});
+  ASSERT_EQ(member.at("warnings").size(), 1);
+  EXPECT_EQ(member.at("warnings").at(0).at("table"), "Member");
+  EXPECT_EQ(RunOn({"split", "--list", "7", "--at", "10"}).at("warnings").size(), 0);
+}
+
+TEST_F(SplitConnectCommand, SplitPassesPlatesOverUnlessTheListNamesThem) {
+  auto text = Model();
+  text.insert(text.find(R"({"n": 8, "type": 2)"), R"({"n": 3, "type": 7, "topology": [1, 2, 4]},
+)");
+  EXPECT_TRUE(RunOn({"split", "--at", "4"}, 0, text).at("data").at("undone").empty());
+  auto const undone =
+      RunOn({"split", "--list", "3 7", "--at", "4"}, 1, text).at("data").at("undone");
+  ASSERT_EQ(undone.size(), 1);
+  EXPECT_EQ(undone.at(0).at("why"), "it is no 1D entity");
+}
+
+TEST_F(SplitConnectCommand, ReportsWhatStillNamesAnElementThatIsGone) {
+  auto text = Model();
+  text.insert(text.find(R"("BeamLoad")"), R"("InfluenceBeam": [{"elem": 7}],
+)");
+  for (auto const& words :
+       std::vector<std::vector<std::string>>{{"split", "--list", "7", "--at", "4"}, {"connect"}}) {
+    auto const undone = RunOn(words, 1, text).at("data").at("undone");
+    ASSERT_EQ(undone.size(), 1);
+    EXPECT_EQ(undone.at(0).at("table"), "InfluenceBeam");
+    EXPECT_EQ(undone.at(0).at("why"), "it still names element 7");
+  }
+}
+
+TEST_F(SplitConnectCommand, ReportsLoadsOnLinesOnly) {
+  // Both loads are on everything; that of plates is no matter of cut beams.
+  auto text = Model();
+  text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "all")");
+  text.insert(
+      text.find(R"("BeamLoad")"),
+      R"("FaceLoad": [{"loadedEntities": {"kind": 2, "text": "all"}, "type": 1, "value": [3, 0, 0, 0]}],
+)");
+  for (auto const& words :
+       std::vector<std::vector<std::string>>{{"split", "--list", "7", "--at", "4"}, {"connect"}}) {
+    auto const undone = RunOn(words, 1, text).at("data").at("undone");
+    ASSERT_EQ(undone.size(), 1);
+    EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
+  }
+}
+
 TEST_F(SplitConnectCommand, SplitWarnsOfAnExtensionWithoutLength) {
   auto const report = RunOn({"split", "--list", "7", "--at=-2", "--extend"});
   EXPECT_EQ(report.at("warnings").at(0).at("code"), "no-length");
@@ -109,6 +178,9 @@ TEST_F(SplitConnectCommand, SplitWantsAPlace) {
   EXPECT_EQ(RunTarvex({"split", model, "--dry-run"}).exit, 2);
   EXPECT_EQ(RunTarvex({"split", model, "--at", "x", "--dry-run"}).exit, 2);
   EXPECT_EQ(RunTarvex({"split", model, "--at", "nan", "--dry-run"}).exit, 2);
+  auto const result = RunTarvex({"split", model, "--at", "--dry-run"});
+  EXPECT_EQ(result.exit, 2);
+  EXPECT_NE(result.err.find("--at: a value is missing before --dry-run"), std::string::npos);
 }
 
 TEST_F(SplitConnectCommand, ConnectCutsLinesThatCross) {
@@ -132,6 +204,22 @@ TEST_F(SplitConnectCommand, ConnectReportsALoadThatIsLeft) {
   auto const undone = RunOn({"connect"}, 1, text).at("data").at("undone");
   ASSERT_EQ(undone.size(), 1);
   EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
+}
+
+TEST_F(SplitConnectCommand, ConnectNamesALoadWhoseRangeHoldsPiecesAlone) {
+  // Beam 9 crosses 7 too; the pieces of 7 are 12 and 13, of which 12 is cut again.
+  auto text = Model();
+  text.replace(text.find(R"({"n": 4, "position": [4, 3, 0]})"), 31,
+               R"({"n": 4, "position": [4, 3, 0]},
+{"n": 5, "position": [7, -3, 0]}, {"n": 6, "position": [7, 3, 0]})");
+  text.insert(text.find(R"({"n": 8, "type": 2)"), R"({"n": 9, "type": 2, "topology": [5, 6]},
+)");
+  text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "12 to 20")");
+  auto const data = RunOn({"connect"}, 1, text).at("data");
+  ASSERT_EQ(data.at("undone").size(), 1);
+  EXPECT_EQ(data.at("undone").at(0).at("table"), "BeamLoad");
+  EXPECT_EQ(data.at("undone").at(0).at("why"),
+            "its list is more than plain numbers: it is left as it is");
 }
 
 TEST_F(SplitConnectCommand, ConnectCutsMembersAndWarnsOfTheirReferences) {
