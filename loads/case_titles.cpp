@@ -1,5 +1,7 @@
 #include "loads/case_titles.h"
 
+#include <unordered_map>
+
 #include "loads/source_slots.h"
 #include "store/model/zel_data.h"
 #include "store/record/cases.h"
@@ -52,6 +54,20 @@ FoundTitle TitleOfAnalysisCase(CZelData const& model, int n) {
   if (response != nullptr && task.Solution(AnalSoln::ResponseSpectrum))
     return TitleOfResponse(*response, analysisCase);
   return {{}, LeftOutReason::SolutionNotTaken};
+}
+
+std::vector<int> CasesOfTasks(CZelData const& model, std::vector<int> const& tasks) {
+  std::unordered_map<int, std::vector<int>> casesOfTask;
+  for (int const task : tasks) casesOfTask.try_emplace(task);
+  for (auto const& [number, record] : model.AnalysisCases())
+    if (auto const found = casesOfTask.find(record.Task()); found != casesOfTask.end())
+      found->second.push_back(static_cast<int>(number));
+  std::vector<int> cases;
+  for (int const task : tasks) {
+    auto const& ofTask = casesOfTask[task];
+    cases.insert(cases.end(), ofTask.begin(), ofTask.end());
+  }
+  return cases;
 }
 
 std::optional<LeftOutReason> WhyLeftOut(FoundTitle const& found) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "tarvex/combinations.h"
 
@@ -17,6 +18,10 @@ struct FoundTitle {
 /// that the titles of its load cases agree on; the name is that of the lowest load case. A blank
 /// title for a case that does not exist.
 FoundTitle TitleOfAnalysisCase(CZelData const& model, int n);
+
+/// The analysis cases of tasks, in the order of the tasks, ascending within each; those of a task
+/// that is given again come again. Walks the cases once.
+std::vector<int> CasesOfTasks(CZelData const& model, std::vector<int> const& tasks);
 
 /// Why an analysis case with this title gets no combination; nothing for one that does.
 std::optional<LeftOutReason> WhyLeftOut(FoundTitle const& found);

@@ -59,20 +59,19 @@ bool EuroGenerator::Combine() {
 
 void EuroGenerator::MapTasks() {
   ClearCombinations();
-  for (int const task : m_tasks) MapCases(task);
+  for (int const n : CasesOfTasks(*m_model, m_tasks)) MapCase(n);
   for (std::size_t slot = 0; slot < kNumSourceMaps; ++slot)
     if (kSourceSlots[slot].isTrimmed) TrimMap(m_sources[slot]);
   m_highest = m_model->HighestCombinationCase();
 }
 
 void EuroGenerator::MapCases(int task) {
-  for (auto const& [number, record] : m_model->AnalysisCases()) {
-    if (record.Task() != task) continue;
-    int const n = static_cast<int>(number);
-    auto const title = AnalysisCase(n);
-    if (auto const slot = SlotOf(title))
-      m_sources[*slot][title.Source()] += Formatted(L"A%i + ", n);
-  }
+  for (int const n : CasesOfTasks(*m_model, {task})) MapCase(n);
+}
+
+void EuroGenerator::MapCase(int n) {
+  auto const title = AnalysisCase(n);
+  if (auto const slot = SlotOf(title)) m_sources[*slot][title.Source()] += Formatted(L"A%i + ", n);
 }
 
 Data::CLoadCaseTitle EuroGenerator::AnalysisCase(int n) const {

@@ -94,13 +94,10 @@ CombinationPlan CLoadCombinationGeneratorEuro::Plan() const {
   auto run(*this);
   run.MapTasks();
   run.PlanActions();
-  for (int const task : m_tasks)
-    for (auto const& [number, record] : m_model->AnalysisCases()) {
-      if (record.Task() != task) continue;
-      int const n = static_cast<int>(number);
-      auto const found = TitleOfAnalysisCase(*m_model, n);
-      if (auto const reason = WhyLeftOut(found)) plan.leftOut.push_back({n, *reason, found.title});
-    }
+  for (int const n : CasesOfTasks(*m_model, m_tasks)) {
+    auto const found = TitleOfAnalysisCase(*m_model, n);
+    if (auto const reason = WhyLeftOut(found)) plan.leftOut.push_back({n, *reason, found.title});
+  }
   if (!run.m_titles.empty())
     for (std::size_t type = 0; type < kNumCombTypes; ++type)
       if (m_families[type]) plan.families[type] = run.PlannedFamily(static_cast<CombType>(type));

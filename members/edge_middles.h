@@ -1,69 +1,67 @@
 // The nodes in the middle of sides, by the nodes at the ends.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
 namespace Tarvex {
 
-/// Maps two corner nodes, in either order, to the node between them. One flat table with open
-/// addressing, since a mesh asks once a side of each element.
+/// Maps two corners, in either order, to the node between them. Corners are named by their places,
+/// counted from 0. Sides stand in the order in which they came, so that the elements that meet one
+/// find it close to what they asked for before.
 class EdgeMiddles {
  public:
-  /// @param edges about how many there will be.
-  explicit EdgeMiddles(std::size_t edges = 0) {
-    std::size_t slots = kLeastSlots;
-    while (slots < 2 * edges) slots *= 2;
-    m_slots.resize(slots);
+  /// The node between two corners, 0 when there is none yet.
+  int Find(int a, int b) const {
+    auto const low = static_cast<std::size_t>(std::min(a, b));
+    if (low >= m_corners.size()) return 0;
+    int const high = std::max(a, b);
+    auto const& corner = m_corners[low];
+    for (int at = corner.first; at >= 0; at = SideAt(at).next)
+      if (SideAt(at).high == high) return SideAt(at).node;
+    if (corner.sides <= kFew) return 0;
+    auto const found = m_more.find(KeyOf(low, high));
+    return found == m_more.end() ? 0 : found->second;
   }
 
-  /// The node between two, 0 when there is none yet.
-  int Find(int a, int b) const { return m_slots[Place(KeyOf(a, b))].node; }
-
-  /// Enters the node between two that have none.
+  /// Enters the node between two corners that have none.
   void Add(int a, int b, int node) {
-    if (2 * (m_count + 1) > m_slots.size()) Grow();
-    auto const key = KeyOf(a, b);
-    m_slots[Place(key)] = {key, node};
-    ++m_count;
+    auto const low = static_cast<std::size_t>(std::min(a, b));
+    if (low >= m_corners.size()) m_corners.resize(low + 1);
+    int const high = std::max(a, b);
+    auto& corner = m_corners[low];
+    if (++corner.sides > kFew) {
+      m_more.emplace(KeyOf(low, high), node);
+      return;
+    }
+    m_sides.push_back({high, node, corner.first});
+    corner.first = static_cast<int>(m_sides.size()) - 1;
   }
 
  private:
-  struct Slot {
-    std::uint64_t key = 0;
-    int node = 0;  // 0 in a free slot
+  /// Sides of a corner that are walked; those of a hub beyond them are looked up.
+  static constexpr int kFew = 8;
+
+  struct Corner {
+    int first = -1;  // side, -1 for none
+    int sides = 0;   // to corners of higher places
   };
-  static constexpr std::size_t kLeastSlots = 64;
+  struct Side {
+    int high;  // place of the other corner
+    int node;
+    int next;  // side of the same corner, -1 behind the last one
+  };
 
-  static std::uint64_t KeyOf(int a, int b) {
-    auto const low = static_cast<std::uint64_t>(a < b ? a : b);
-    auto const high = static_cast<std::uint64_t>(a < b ? b : a);
-    return low << 32 | high;
+  static std::uint64_t KeyOf(std::size_t low, int high) {
+    return std::uint64_t{low} << 32 | static_cast<std::uint64_t>(high);
   }
+  Side const& SideAt(int at) const { return m_sides[static_cast<std::size_t>(at)]; }
 
-  /// Slot of a key: the one that holds it, or the free one that it would go to.
-  std::size_t Place(std::uint64_t key) const {
-    // The finalizer of MurmurHash3 spreads neighbouring numbers over the table.
-    auto hash = key;
-    hash = (hash ^ hash >> 33) * 0xff51afd7ed558ccdULL;
-    hash = (hash ^ hash >> 33) * 0xc4ceb9fe1a85ec53ULL;
-    hash ^= hash >> 33;
-    std::size_t const mask = m_slots.size() - 1;
-    auto place = static_cast<std::size_t>(hash) & mask;
-    while (m_slots[place].node != 0 && m_slots[place].key != key) place = (place + 1) & mask;
-    return place;
-  }
-
-  void Grow() {
-    auto const old = std::move(m_slots);
-    m_slots.assign(2 * old.size(), {});
-    for (auto const& slot : old)
-      if (slot.node != 0) m_slots[Place(slot.key)] = slot;
-  }
-
-  std::vector<Slot> m_slots;  // a power of two of them, at most half in use
-  std::size_t m_count = 0;
+  std::vector<Corner> m_corners;  // by the lower place of a side
+  std::vector<Side> m_sides;
+  std::unordered_map<std::uint64_t, int> m_more;
 };
 
 }  // namespace Tarvex

@@ -1,9 +1,11 @@
 // Plates with a node in the middle of each side.
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 
 #include "frame/rebuild_hold.h"
+#include "members/corner_nodes.h"
 #include "members/edge_middles.h"
 #include "members/plate_corners.h"
 #include "members/rigid_followers.h"
@@ -20,27 +22,23 @@ constexpr int kWholeModel = 0;  // the stage whose joints keep nodes apart
 /// One run over the elements of a set.
 class MiddleRun {
  public:
-  MiddleRun(CZelData& model, Util::CSet const& elements)
-      : m_model(model),
-        m_edges(kEdgesPerElement *
-                std::min(static_cast<std::size_t>(elements.NumItem()), model.Elem().size())),
-        m_rigids(model) {
-    m_bystanders.Invert(1, model.HighestNode());
-    m_highestOld = model.HighestNode();
+  explicit MiddleRun(CZelData& model)
+      : m_model(model), m_corners(model), m_rigids(model), m_highestOld(model.HighestNode()) {
+    m_bystanders.Invert(1, m_highestOld);
   }
 
   void Raise(int n) {
     auto element = m_model.Elem(n);
     if (element.Type() != ElementType::Tri3 && element.Type() != ElementType::Quad4) return;
     int const corners = element.Shape().corners;
-    if (!HasOldCorners(element, corners)) return;
+    std::array<int, kQuadCorners> places{};
+    for (int i = 0; i < corners; ++i)
+      if (Place(places, i) = m_corners.PlaceOf(element.Topo(i)); Place(places, i) < 0) return;
     bool const released = element.IsConnect();
     element.SetType(element.Shape().quadratic);
     for (int i = 0; i < corners; ++i) {
-      int const a = element.Topo(i);
-      int const b = element.Topo((i + 1) % corners);
-      m_bystanders.RemoveFrom(a);
-      element.SetTopo(corners + i, MiddleOf(a, b));
+      m_bystanders.RemoveFrom(element.Topo(i));
+      element.SetTopo(corners + i, MiddleOf(Place(places, i), Place(places, (i + 1) % corners)));
     }
     if (released) ReleaseMiddles(element, corners);
     m_model.SetElem(n, element);
@@ -52,29 +50,25 @@ class MiddleRun {
   }
 
  private:
-  static constexpr std::size_t kEdgesPerElement = 2;  // of a mesh of quadrilaterals
-
-  /// A number behind the highest may become that of a new node, which is no corner.
-  bool HasOldCorners(Data::CElement const& element, int corners) const {
-    for (int i = 0; i < corners; ++i)
-      if (element.Topo(i) > m_highestOld) return false;
-    return HasCorners(m_model, element, corners);
+  static int& Place(std::array<int, kQuadCorners>& places, int corner) {
+    return places[static_cast<std::size_t>(corner)];
   }
 
+  /// The node between two corners, by their places.
   int MiddleOf(int a, int b) {
     if (int const known = m_edges.Find(a, b); known > 0) return known;
-    auto const& start = m_model.Node(a);
-    auto const& end = m_model.Node(b);
-    bool const sameAxis = start.Axis() == end.Axis();
-    Data::CNode node((start.Position() + end.Position()) * 0.5, 0, Vbool6());
+    auto const& start = m_corners[a];
+    auto const& end = m_corners[b];
+    bool const sameAxis = start.axis == end.axis;
+    Data::CNode node((start.position + end.position) * 0.5, 0, Vbool6());
     if (sameAxis) {
-      node.SetAxis(start.Axis());
-      node.SetRestraint(start.Restraint() & end.Restraint());
+      node.SetAxis(start.axis);
+      node.SetRestraint(start.restraint & end.restraint);
     }
     int const number = m_model.HighestNode() + 1;
     m_model.SetNode(number, node);
     m_edges.Add(a, b, number);
-    if (sameAxis) m_rigids.Join(a, b, number);
+    if (sameAxis) m_rigids.Join(start.number, end.number, number);
     return number;
   }
 
@@ -120,10 +114,11 @@ class MiddleRun {
   }
 
   CZelData& m_model;
+  CornerNodes m_corners;
   EdgeMiddles m_edges;
   RigidFollowers m_rigids;
   Util::CSet m_bystanders{SelNode};  // nodes that are no corner of an element of the run
-  int m_highestOld = 0;
+  int m_highestOld;
 };
 
 }  // namespace
@@ -135,7 +130,7 @@ CMod2DToQuadratic::~CMod2DToQuadratic() = default;
 
 bool CMod2DToQuadratic::Do() {
   RebuildHold const hold(m_model);
-  MiddleRun run(m_model, m_set);
+  MiddleRun run(m_model);
   for (int const n : m_set)
     if (m_model.ElemExist(n)) run.Raise(n);
   run.Finish();

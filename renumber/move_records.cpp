@@ -58,7 +58,7 @@ void MoveGridSurfaces(RenumberRun const& run, Id module) {
 void MoveNodes(RenumberRun const& run, Id module) {
   auto const& scheme = *run.schemes.Find(module);
   auto const& before = run.before;
-  auto const& nodes = before.Node();
+  auto const& nodes = before.StoredNodes();
   if (KeepsAll(scheme, nodes)) return;
   Util::CSet stay(SelNode);
   scheme.ForEach([&](int old, int number) {

@@ -134,7 +134,7 @@ bool ReferenceRewriter::GridSurfaces() {
 
 bool ReferenceRewriter::Nodes() {
   auto& model = m_run.model;
-  auto const& nodes = model.Node();
+  auto const& nodes = model.StoredNodes();
   for (int n = nodes.Next(0); n != 0; n = nodes.Next(n)) {
     int const axis = nodes.Find(n)->Axis();
     if (int const mapped = Map(CModule::Axis, axis); mapped != axis) model.SetNodeAxis(n, mapped);

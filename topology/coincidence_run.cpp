@@ -6,7 +6,7 @@
 namespace Tarvex {
 
 CReduceCoinc::Run::Run(CZelData& model, COrderSet const& order, double tolerance, int stage)
-    : renumber(&model), m_model(model), m_order(order), m_tolerance(tolerance), m_stage(stage) {}
+    : m_model(model), m_order(order), m_tolerance(tolerance), m_stage(stage) {}
 
 JointTies& CReduceCoinc::Run::Ties() {
   if (!m_ties) m_ties.emplace(m_model, m_stage);

@@ -6,7 +6,6 @@
 
 #include "store/model/zel_data.h"
 #include "tarvex/coincidence.h"
-#include "tarvex/renumber.h"
 #include "topology/joint_ties.h"
 #include "topology/node_sweep.h"
 
@@ -34,8 +33,6 @@ class CReduceCoinc::Run {
   bool IsConstrained(int node);
   /// Stores a joint of two nodes in all directions, for the stage.
   void AddJoint(int primary, int constrained);
-
-  CRenumber renumber;
 
  private:
   JointTies& Ties();

@@ -83,8 +83,7 @@ NodeSweep::Best NodeSweep::ByCells(int place, JointTies const& ties) const {
     double const distance = Length(PointAt(other) - PointAt(place));
     bool const better = best.distance > distance || (best.place >= 0 && best.distance == distance &&
                                                      MeetsFirst(place, other, best.place));
-    if (better && !(std::abs(AlongAt(other) - at) > m_tolerance) &&
-        Counts(place, other, ties))
+    if (better && !(std::abs(AlongAt(other) - at) > m_tolerance) && Counts(place, other, ties))
       best = {distance, other};
   });
   return best;

@@ -93,42 +93,47 @@ bool CReduceCoinc::AddToSearchSet(int number) {
 bool CReduceCoinc::RemoveFromSearchSet(int number) { return m_order.RemoveFromSet(number); }
 
 /// Lets a walk process items; then references change, when nodes were merged.
+/// @param pairs what the walk appends to it was merged.
 template <class Walk>
-bool CReduceCoinc::RunOver(Walk&& walk) {
-  Run run(m_model, m_order, m_tolerance, m_stage);
+bool CReduceCoinc::RunOver(std::vector<std::pair<int, int>>& pairs, Walk&& walk) {
   bool const merging = IsMerge(m_option);
   std::optional<RebuildHold> hold;  // attachments would be worked out, and out of date at once
   if (merging) hold.emplace(m_model);
-  if (merging) run.renumber.Index(Data::CEntList(m_order.TypeOf(), CString()), CModule::None);
-  bool const did = walk(run);
-  if (did && merging) run.renumber.Go(false);
-  return did;
+  auto const before = pairs.size();
+  bool did = false;
+  {
+    Run run(m_model, m_order, m_tolerance, m_stage);
+    did = walk(run);
+  }
+  if (!did || !merging) return did;
+  CRenumber renumber(&m_model);
+  renumber.Index(Data::CEntList(m_order.TypeOf(), CString()), CModule::None);
+  for (auto i = before; i < pairs.size(); ++i)
+    renumber.IndexItem(EntModId(SelNode), pairs[i].first, pairs[i].second);
+  renumber.Go(false);
+  return true;
 }
 
 bool CReduceCoinc::Do(Util::CSet const& items, std::vector<std::pair<int, int>>& pairs) {
-  return RunOver([&](Run& run) {
+  return RunOver(pairs, [&](Run& run) {
     bool did = false;
     constexpr int kAhead = 16;  // items for which memory takes to answer
     int const lowest = items.LowestItem();
     // What a merge takes out was passed before: no number comes up that is gone.
     for (int n = items.HighestItem(); n >= lowest && n > 0; --n) {
       run.Expect(n - kAhead);
-      if (!items.IsItemIncluded(n)) continue;
-      std::pair<int, int> pair{0, 0};
-      if (!DoItem(n, run, pair)) continue;
-      did = true;
-      if (pair.first != 0 && pair.second != 0) pairs.push_back(pair);
+      if (items.IsItemIncluded(n) && DoItem(n, run, pairs)) did = true;
     }
     return did;
   });
 }
 
 bool CReduceCoinc::Do(int first, int count) {
-  return RunOver([&](Run& run) {
+  std::vector<std::pair<int, int>> pairs;
+  return RunOver(pairs, [&](Run& run) {
     bool did = false;
-    std::pair<int, int> pair;
     for (int left = count; left > 0; --left)
-      if (DoItem(first + (left - 1), run, pair)) did = true;
+      if (DoItem(first + (left - 1), run, pairs)) did = true;
     return did;
   });
 }
@@ -148,17 +153,18 @@ int CReduceCoinc::FindIn(Run& run, int item) const {
   return listed ? run.Nearest(place) : FindCoinc(item, false);
 }
 
-bool CReduceCoinc::DoItem(int item, Run& run, std::pair<int, int>& pair) {
+bool CReduceCoinc::DoItem(int item, Run& run, std::vector<std::pair<int, int>>& pairs) {
   int const other = FindIn(run, item);
   if (other == 0) return false;
   bool const merging = IsMerge(m_option);
   if (!merging && m_option != OptionJoint) return true;
   if (m_order.TypeOf() != SelNode) throw std::out_of_range("bad entity type");
   if (!merging) return Join(item, other, run);
-  pair = {std::max(item, other), std::min(item, other)};
-  Merge(pair.first, pair.second, run);
-  run.renumber.IndexItem(EntModId(SelNode), pair.first, pair.second);
-  m_order.RemoveFromSet(pair.first);
+  int const removed = std::max(item, other);
+  int const kept = std::min(item, other);
+  Merge(removed, kept, run);
+  pairs.emplace_back(removed, kept);
+  m_order.RemoveFromSet(removed);
   return true;
 }
 

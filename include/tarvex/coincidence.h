@@ -122,9 +122,9 @@ class TARVEX_EXPORT CReduceCoinc {
   class Run;
 
   template <class Walk>
-  bool RunOver(Walk&& walk);
+  bool RunOver(std::vector<std::pair<int, int>>& pairs, Walk&& walk);
   int FindIn(Run& run, int item) const;
-  bool DoItem(int item, Run& run, std::pair<int, int>& pair);
+  bool DoItem(int item, Run& run, std::vector<std::pair<int, int>>& pairs);
   bool Join(int item, int other, Run& run);
   void Merge(int removed, int kept, Run& run);
 

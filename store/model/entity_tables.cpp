@@ -126,6 +126,10 @@ tarvex_unordered_map<unsigned int, CNode> const& EntityTables::Node() const {
   return m_core.state.node;
 }
 
+tarvex_unordered_map<unsigned int, CNode> const& EntityTables::StoredNodes() const {
+  return m_core.state.node;
+}
+
 int EntityTables::HighestNode() const { return m_core.state.node.Highest(); }
 
 void EntityTables::SetNode(int n, CNode const& node, SidMode sid) {

@@ -39,6 +39,9 @@ class TARVEX_STORE_EXPORT EntityTables {
   bool NodeExist(int n) const;
   Data::CNode const& Node(int n) const;
   tarvex_unordered_map<unsigned int, Data::CNode> const& Node() const;
+  /// The table as it is stored, for walks that ask nothing of attachments and of what lists hold:
+  /// both may be out of date in it, and are not brought up to date by looking.
+  tarvex_unordered_map<unsigned int, Data::CNode> const& StoredNodes() const;
   int HighestNode() const;
   void SetNode(int n, Data::CNode const& node, SidMode sid = SidMode::Keep);
   void BlankNode(int first, int count);

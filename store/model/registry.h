@@ -62,7 +62,7 @@ inline constexpr auto kOneOffs =
 
 inline constexpr auto kSparseTables = MakeRows(
     TableRow<Data::CNode>{CModule::Node, "Node", TableShape::Sparse, RemovalForm::Blank,
-                          &CZelData::NodeExist, &CZelData::Node, &CZelData::Node,
+                          &CZelData::NodeExist, &CZelData::Node, &CZelData::StoredNodes,
                           &CZelData::HighestNode, &CZelData::SetNode, &CZelData::BlankNode},
     TableRow<Data::CElement>{CModule::Elem, "Elem", TableShape::Sparse, RemovalForm::Blank,
                              &CZelData::ElemExist, &CZelData::Elem, &CZelData::Elem,

@@ -170,9 +170,9 @@ class PagedTable {
 
   class Page : public boost::intrusive_ref_counter<Page> {
    public:
-    Page() = default;
-    // Not by way of the other constructor, which would fill the bytes with zeros first.
-    Page(Page const& other) : boost::intrusive_ref_counter<Page>() {
+    // A defaulted one would fill the bytes with zeros whenever a copy begins with it.
+    Page() {}  // NOLINT(modernize-use-equals-default)
+    Page(Page const& other) : Page() {
       other.ForEach([&](unsigned slot, Record const& record) { Put(slot, record); });
     }
     Page& operator=(Page const&) = delete;

@@ -17,8 +17,8 @@ using Table = tarvex_unordered_map<unsigned int, Record>;
 
 TEST(EntityTablesLink, NodeOperations) {
   EXPECT_TRUE(AreLinked(&T::NodeExist, Member<Data::CNode const&(int) const>(&T::Node),
-                        Member<Table<Data::CNode> const&() const>(&T::Node), &T::HighestNode,
-                        &T::SetNode, &T::_SetNode, &T::BlankNode, &T::CreateNode,
+                        Member<Table<Data::CNode> const&() const>(&T::Node), &T::StoredNodes,
+                        &T::HighestNode, &T::SetNode, &T::_SetNode, &T::BlankNode, &T::CreateNode,
                         Member<void(int, Vec3<double> const&)>(&T::SetNodeCoor), &T::SetNodeAxis,
                         &T::SetNodeRestraint, &T::SetNodeSid,
                         Member<Vec3<double> const&(int) const>(&T::NodeCoor), &T::NearestNode,

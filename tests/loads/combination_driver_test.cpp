@@ -7,29 +7,15 @@ namespace {
 using Testing::AddAction;
 using Testing::AddResponse;
 using Testing::IsUnchanged;
+using Testing::kAllFamilies;
 using Testing::kStaticTask;
 using Testing::Lines;
+using Testing::OnTasks;
 using Testing::OpenEuro;
 using Testing::ResponseTask;
 using Testing::Texts;
 using Testing::Title;
 using Testing::WithBasics;
-
-constexpr bool kAllFamilies = true;
-
-/// A generator on some tasks; with all families on where told.
-OpenEuro Generator(CZelData& model, std::vector<int> const& tasks, bool all = false) {
-  OpenEuro generator;
-  generator.SetData(&model);
-  generator.SetTasks(tasks);
-  generator.SetUlsPersistent(all);
-  generator.SetUlsAccidental(all);
-  generator.SetUlsSeismic(all);
-  generator.SetSlsCharacteristic(all);
-  generator.SetSlsFrequent(all);
-  generator.SetSlsQuasiPerm(all);
-  return generator;
-}
 
 void Describe(CZelData& model, int analysisCase, wchar_t const* text) {
   auto record = model.AnalysisCase(analysisCase);
@@ -257,7 +243,7 @@ TEST(MapCases, PassesOverCasesOfOtherTasksAndHoles) {
   auto other = model.AnalysisCase(3);
   other.SetTask(9);
   model.SetAnalysisCase(3, other);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   EXPECT_TRUE(generator.Combine());
   EXPECT_EQ(Lines(model), Texts{"1 Variable : Wind 1 = A1"});
 }
@@ -271,10 +257,21 @@ TEST(MapTasks, TakesTheTasksInTheirOrder) {
   other.SetTask(9);
   model.SetAnalysisCase(1, other);
   CZelData again(model);
-  EXPECT_TRUE(Generator(model, {kStaticTask, 9}).Combine());
+  EXPECT_TRUE(OnTasks(model, {kStaticTask, 9}).Combine());
   EXPECT_EQ(Lines(model), Texts{"1 Variable : Wind 1 = A2 + A1"});
-  EXPECT_TRUE(Generator(again, {9, kStaticTask}).Combine());
+  EXPECT_TRUE(OnTasks(again, {9, kStaticTask}).Combine());
   EXPECT_EQ(Lines(again), Texts{"1 Variable : Wind 1 = A1 + A2"});
+}
+
+TEST(MapTasks, TakesATaskThatIsGivenAgainAgain) {
+  CZelData model;
+  for (int i = 0; i < 3; ++i) AddAction(model, CaseType::Wind);
+  model.SetAnalysisTask(9, CZssTask(L"", AnalSoln::Static));
+  auto other = model.AnalysisCase(2);
+  other.SetTask(9);
+  model.SetAnalysisCase(2, other);
+  EXPECT_TRUE(OnTasks(model, {kStaticTask, 9, 7, kStaticTask}).Combine());
+  EXPECT_EQ(Lines(model), Texts{"1 Variable : Wind 1 = A1 + A3 + A2 + A1 + A3"});
 }
 
 TEST(MapTasks, EmptiesTheGroupRanges) {
@@ -389,14 +386,14 @@ TEST(FinalCombination, AddsTheLastOfEachGroupInOrder) {
 
 TEST(Combine, WithoutTasksOrClassifiedCasesLeavesTheModelAlone) {
   CZelData model;
-  EXPECT_FALSE(Generator(model, {}, kAllFamilies).Combine());
+  EXPECT_FALSE(OnTasks(model, {}, kAllFamilies).Combine());
   AddAction(model, CaseType::SeismicStatic);
   AddAction(model, CaseType::Thermal);
   AddAction(model, CaseType::Undefined);
   CZelData const before(model);
-  EXPECT_FALSE(Generator(model, {kStaticTask}, kAllFamilies).Combine());
-  EXPECT_FALSE(Generator(model, {}, kAllFamilies).Combine());
-  EXPECT_FALSE(Generator(model, {5}, kAllFamilies).Combine());
+  EXPECT_FALSE(OnTasks(model, {kStaticTask}, kAllFamilies).Combine());
+  EXPECT_FALSE(OnTasks(model, {}, kAllFamilies).Combine());
+  EXPECT_FALSE(OnTasks(model, {5}, kAllFamilies).Combine());
   EXPECT_TRUE(IsUnchanged(model, before));
 }
 
@@ -409,7 +406,7 @@ TEST(Combine, WithoutAModelGivesFalse) {
 TEST(Combine, WithoutFamiliesWritesTheBasicCombinationsAlone) {
   CZelData model;
   AddAction(model, CaseType::Wind);
-  EXPECT_TRUE(Generator(model, {kStaticTask}).Combine());
+  EXPECT_TRUE(OnTasks(model, {kStaticTask}).Combine());
   EXPECT_EQ(Lines(model), Texts{"1 Variable : Wind 1 = A1"});
 }
 
@@ -420,7 +417,7 @@ TEST(Combine, WritesBehindTheHighestCombinationOfTheModel) {
   kept.SetName(L"kept");
   model.SetCombinationCase(3, kept);
   model.SetCombinationCase(41, kept);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   generator.SetSlsCharacteristic(true);
   EXPECT_TRUE(generator.Combine());
   EXPECT_EQ(Lines(model, 42),
@@ -444,7 +441,7 @@ TEST(Combine, RunsTheFamiliesInOrder) {
   AddAction(model, CaseType::SelfWeight);
   AddAction(model, CaseType::Accidental);
   AddResponse(model, 1, 1);
-  EXPECT_TRUE(Generator(model, Testing::AllTasks(model), kAllFamilies).Combine());
+  EXPECT_TRUE(OnTasks(model, Testing::AllTasks(model), kAllFamilies).Combine());
   EXPECT_EQ(Finals(model), (Texts{"ULS Persistent", "ULS Accidental", "ULS Seismic",
                                   "SLS Characteristic", "SLS Frequent", "SLS Quasi-Permament"}));
 }
@@ -464,7 +461,7 @@ TEST(Combine, RunsOneFamilyForEachFlag) {
     CZelData model;
     AddAction(model, CaseType::Accidental);
     AddResponse(model, 1, 1);
-    auto generator = Generator(model, Testing::AllTasks(model));
+    auto generator = OnTasks(model, Testing::AllTasks(model));
     (generator.*row.set)(true);
     EXPECT_TRUE(generator.Combine());
     EXPECT_EQ(Finals(model), Texts{row.name});
@@ -474,7 +471,7 @@ TEST(Combine, RunsOneFamilyForEachFlag) {
 TEST(Combine, WithoutAccidentalCasesIsFalseWithoutWordsAndGoesOn) {
   CZelData model;
   AddAction(model, CaseType::SelfWeight);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   generator.SetUlsPersistent(true);
   generator.SetUlsAccidental(true);
   generator.SetSlsCharacteristic(true);
@@ -486,7 +483,7 @@ TEST(Combine, WithoutAccidentalCasesIsFalseWithoutWordsAndGoesOn) {
 TEST(Combine, WithoutSeismicCasesIsFalseWithAReportAndGoesOn) {
   CZelData model;
   AddAction(model, CaseType::SelfWeight);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   generator.SetUlsSeismic(true);
   generator.SetSlsFrequent(true);
   EXPECT_FALSE(generator.Combine());
@@ -494,10 +491,41 @@ TEST(Combine, WithoutSeismicCasesIsFalseWithAReportAndGoesOn) {
   EXPECT_EQ(Finals(model), Texts{"SLS Frequent"});
 }
 
+TEST(Combine, IsFalseForAFamilyWithoutCasesWhateverComesBefore) {
+  CZelData model;
+  AddAction(model, CaseType::SelfWeight);
+  AddResponse(model, 1, 1);
+  auto generator = OnTasks(model, Testing::AllTasks(model));
+  generator.SetUlsAccidental(true);
+  generator.SetUlsSeismic(true);
+  EXPECT_FALSE(generator.Combine());  // no accidental cases
+  EXPECT_EQ(generator.Report(), L"");
+  EXPECT_EQ(Finals(model), Texts{"ULS Seismic"});
+}
+
+TEST(Combine, IsFalseForAFamilyWithoutCasesWhateverComesBehind) {
+  struct Row {
+    void (CLoadCombinationGeneratorEuro::*set)(bool);
+    char const* name;
+  };
+  using Base = CLoadCombinationGeneratorEuro;
+  for (auto const& row : {Row{&Base::SetSlsCharacteristic, "SLS Characteristic"},
+                          Row{&Base::SetSlsFrequent, "SLS Frequent"},
+                          Row{&Base::SetSlsQuasiPerm, "SLS Quasi-Permament"}}) {
+    CZelData model;
+    AddAction(model, CaseType::SelfWeight);
+    auto generator = OnTasks(model, {kStaticTask});
+    generator.SetUlsSeismic(true);
+    (generator.*row.set)(true);
+    EXPECT_FALSE(generator.Combine()) << row.name;
+    EXPECT_EQ(Finals(model), Texts{row.name});
+  }
+}
+
 TEST(Combine, EmptiesTheReportFirst) {
   CZelData model;
   AddAction(model, CaseType::SelfWeight);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   generator.SetUlsSeismic(true);
   generator.Combine();
   generator.SetUlsSeismic(false);
@@ -509,7 +537,7 @@ TEST(Combine, ASecondTimeAddsToWhatTheFirstFound) {
   CZelData model;
   AddAction(model, CaseType::Wind);
   AddAction(model, CaseType::Wind);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   EXPECT_TRUE(generator.Combine());
   EXPECT_TRUE(generator.Combine());
   EXPECT_EQ(Lines(model),
@@ -525,7 +553,7 @@ TEST(Combine, GivesTheSameOnCopiesOfTheGeneratorAndOfTheModel) {
   AddAction(model, CaseType::SelfWeight);
   AddAction(model, CaseType::Imposed, 1, 1);
   AddAction(model, CaseType::Wind);
-  auto generator = Generator(model, {kStaticTask});
+  auto generator = OnTasks(model, {kStaticTask});
   generator.SetUlsPersistent(true);
   CZelData second(model);
   CZelData third(model);

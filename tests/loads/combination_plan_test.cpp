@@ -11,16 +11,7 @@ using Testing::kStaticTask;
 using Testing::OpenEuro;
 
 OpenEuro AllFamilies(CZelData& model) {
-  OpenEuro generator;
-  generator.SetData(&model);
-  generator.SetTasks(AllTasks(model));
-  generator.SetUlsPersistent(true);
-  generator.SetUlsAccidental(true);
-  generator.SetUlsSeismic(true);
-  generator.SetSlsCharacteristic(true);
-  generator.SetSlsFrequent(true);
-  generator.SetSlsQuasiPerm(true);
-  return generator;
+  return Testing::OnTasks(model, AllTasks(model), Testing::kAllFamilies);
 }
 
 using Counts = std::array<long long, 6>;

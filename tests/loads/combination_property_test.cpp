@@ -42,7 +42,7 @@ void AddRandomActions(CZelData& model, Random& random) {
 /// What a run is told.
 struct Choice {
   std::vector<int> tasks;
-  std::array<bool, 6> families;
+  std::array<bool, kNumCombTypes> families;
   int psi;
   Data::RespComb rule;
 
@@ -54,15 +54,7 @@ struct Choice {
   }
   template <class Generator>
   Generator For(CZelData& model) const {
-    Generator generator;
-    generator.SetData(&model);
-    generator.SetTasks(tasks);
-    generator.SetUlsPersistent(families[0]);
-    generator.SetUlsAccidental(families[1]);
-    generator.SetUlsSeismic(families[2]);
-    generator.SetSlsCharacteristic(families[3]);
-    generator.SetSlsFrequent(families[4]);
-    generator.SetSlsQuasiPerm(families[5]);
+    auto generator = Testing::OnTasks<Generator>(model, tasks, families);
     generator.SetPsiAccidental(psi);
     generator.SetSeismic(rule);
     return generator;
@@ -204,7 +196,7 @@ TEST(CombinationProperty, OfTheUnitedKingdomDiffersInDescriptionsOfWindAndRoofsO
   EXPECT_GT(differ, 0);
 }
 
-// The variable actions by the rules as they are told.
+// The variable actions, way by way.
 
 using PlainGroup = std::vector<std::tuple<int, int>>;  // number, source
 

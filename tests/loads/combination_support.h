@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -111,6 +112,24 @@ inline std::vector<int> AllTasks(CZelData const& model) {
   std::vector<int> tasks;
   for (auto const& [n, task] : model.AnalysisTask()) tasks.push_back(static_cast<int>(n));
   return tasks;
+}
+
+inline constexpr std::array<bool, kNumCombTypes> kAllFamilies{true, true, true, true, true, true};
+
+/// A generator on some tasks of a model, with the families that are on.
+template <class Generator = OpenEuro>
+Generator OnTasks(CZelData& model, std::vector<int> const& tasks,
+                  std::array<bool, kNumCombTypes> const& families = {}) {
+  Generator generator;
+  generator.SetData(&model);
+  generator.SetTasks(tasks);
+  generator.SetUlsPersistent(families[0]);
+  generator.SetUlsAccidental(families[1]);
+  generator.SetUlsSeismic(families[2]);
+  generator.SetSlsCharacteristic(families[3]);
+  generator.SetSlsFrequent(families[4]);
+  generator.SetSlsQuasiPerm(families[5]);
+  return generator;
 }
 
 /// The combinations from a number on: "7 Variable : Wind 1 = A3".

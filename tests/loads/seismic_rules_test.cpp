@@ -91,6 +91,27 @@ TEST(SeismicComb, OfTorsionAloneListsItsAbsoluteValue) {
                    "4 Seismic SRSS +/- = (1 or -1)C3"}));
 }
 
+TEST(SeismicComb, KnowsTorsionAboutYWithoutTorsionAboutX) {
+  CZelData model;
+  AddAction(model, CaseType::SeismicTorsion, 1, 2);
+  AddResponse(model, 1, 1);
+  // Basic 1 the response, 2 the torsion.
+  EXPECT_EQ(SeismicOf(model, RespComb::SquareRoot, 3),
+            (Texts{"3 | Seismic : Acc. tors. 1y | = C2abs", "4 Seismic SRSS = SRSS(C1,C3)",
+                   "5 Seismic SRSS +/- = (1 or -1)C4"}));
+}
+
+TEST(SeismicComb, OfSeveralSourcesTakesThirtyPercentForEachByItself) {
+  CZelData model;
+  for (int const source : {1, 2}) AddResponse(model, source, 1);
+  auto generator = SeismicGenerator(model, RespComb::ThirtyPercent);
+  generator.SeismicComb();
+  generator.FinalCombination(CombUlsSeismic);
+  EXPECT_EQ(Lines(model, 3),
+            (Texts{"3 Seismic x 30% = C1", "4 Seismic 30% = (1 or -1)C3", "5 Seismic x 30% = C2",
+                   "6 Seismic 30% = (1 or -1)C5", "7 ULS Seismic = C6"}));
+}
+
 TEST(SeismicComb, OfSeveralSourcesLeavesTheLastOneToTheFinalCombination) {
   CZelData model;
   AddResponse(model, 4, 1);
@@ -118,6 +139,22 @@ TEST(SeismicComb, EndsAtASourceWithoutTitlesWithoutARange) {
   generator.SeismicComb();
   generator.FinalCombination(CombUlsSeismic);
   EXPECT_EQ(Lines(model), (Texts{"1 Seismic : RSA 2x = A2", "2 ULS Seismic = "}));
+}
+
+TEST(SeismicComb, EndsWithoutARangeBehindASourceThatItHasWritten) {
+  CZelData model;
+  for (int const source : {1, 2}) AddResponse(model, source, 1);
+  OpenEuro generator;
+  generator.SetData(&model);
+  generator.SetTasks({Testing::ResponseTask(1)});
+  generator.MapTasks();
+  generator.BasicComb();                         // knows source 1 alone
+  generator.MapCases(Testing::ResponseTask(2));  // now source 2 too, without a title
+  EXPECT_EQ(generator.NumSource(CaseType::SeismicStatic, true), 2);
+  generator.SeismicComb();
+  generator.FinalCombination(CombUlsSeismic);
+  EXPECT_EQ(Lines(model), (Texts{"1 Seismic : RSA 1x = A1", "2 Seismic SRSS = SRSS(C1)",
+                                 "3 Seismic SRSS +/- = (1 or -1)C2", "4 ULS Seismic = "}));
 }
 
 /// A generator of a response in x with a case of rain whose title became another one meanwhile. The

@@ -111,6 +111,28 @@ TEST(PermanentGroups, HaveNoPlaceForOtherTypes) {
                                     "4 undefined 2 = (1.35 or 1)C2", "5 ULS Persistent = "}));
 }
 
+TEST(PermanentGroups, CountTheirOwnEntriesAlone) {
+  // Two permanent actions, one of them in a group: nothing to choose from. The range goes up to the
+  // last that was written, whichever it is.
+  struct Row {
+    std::vector<int> types;
+    Texts lines;
+  };
+  for (auto const& row :
+       {Row{{13, 11},
+            {"3 undefined 1 = (1.35 or 1)C1", "4 Permanent : Self weight 1 = (1.35 or 1)C2",
+             "5 ULS Persistent = C4"}},
+        Row{{11, 13},
+            {"3 Permanent : Self weight 1 = (1.35 or 1)C1", "4 undefined 1 = (1.35 or 1)C2",
+             "5 ULS Persistent = C4"}}}) {
+    CZelData model;
+    auto generator = WithTitles(model, {Title(Type(row.types[0])), Title(Type(row.types[1]))});
+    generator.PersistentComb(CombUlsPersistent);
+    generator.FinalCombination(CombUlsPersistent);
+    EXPECT_EQ(Lines(model, 3), row.lines);
+  }
+}
+
 TEST(PrestressGroup, TakesAllTypesOfItsRange) {
   CZelData model;
   auto generator = WithTitles(model, {Title(Type(20)), Title(Type(29))});

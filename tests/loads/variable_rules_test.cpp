@@ -44,7 +44,7 @@ TEST(SortVariable, KeepsGroupsApart) {
   EXPECT_EQ(groups, (std::vector<Group>{{{1, {4, 0}}}, {{2, {4, 0}}, {3, {-4, 0}}}}));
 }
 
-/// The rule as it is told: for each entry in turn every later one with its source is negated.
+/// Plainly: for each entry in turn every later one with its source is negated.
 std::vector<int> PlainlySorted(std::vector<int> sources) {
   for (std::size_t i = 0; i < sources.size(); ++i)
     for (std::size_t k = i + 1; k < sources.size(); ++k)
@@ -280,6 +280,21 @@ TEST(VariableCombB, PairsRoofsWithImposedActionsOfTheirSourceOnly) {
       (Texts{"16 Variable 1 = C8 + C10", "17 Variable 2 = C6 + C15", "18 Variable 3 = C8 + C15",
              "19 Variable 4 = C7 + C14", "20 Variable 5 = C9 + C14", "21 Variable = C16 to C20",
              "22 ULS Persistent = C21"}));
+}
+
+TEST(VariableCombB, PairsEachImposedActionInTurnWithItsRoofs) {
+  CZelData model;
+  AddAction(model, CaseType::Imposed, 2, 1);
+  AddAction(model, CaseType::Imposed, 1, 2);
+  for (int const source : {1, 2}) AddAction(model, CaseType::ImposedRoof, source, 8);
+  AddAction(model, CaseType::Wind);
+  // Basic in the order of the categories: 1 imposed 2A, 2 imposed 1B, 3 roof 1, 4 roof 2, 5 wind.
+  // Leading 6, 8 imposed, 10, 12 roofs, 14 wind.
+  EXPECT_EQ(
+      OneLeadsOf(model, CombUlsPersistent, 16),
+      (Texts{"16 Variable 1 = C6 + C12", "17 Variable 2 = C8 + C10", "18 Variable 3 = C6 + C15",
+             "19 Variable 4 = C8 + C15", "20 Variable 5 = C7 + C14", "21 Variable 6 = C9 + C14",
+             "22 Variable = C16 to C21", "23 ULS Persistent = C22"}));
 }
 
 TEST(VariableCombB, CountsThePlacesOfEmptyTextsToo) {

@@ -2,9 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
+#include <array>
 
 #include "store/record/node.h"
+#include "store/select/numbers.h"
 #include "tests/renumber/renumber_support.h"
 
 namespace Tarvex::MergeTest {
@@ -32,7 +33,12 @@ class PlainScheme {
       if (number == from) m_scheme[old] = number = to;
     std::sort(m_pairs.begin(), m_pairs.end());
   }
-  Scheme const& Map() const { return m_scheme; }
+  /// Without what goes.
+  Scheme Map() const {
+    Scheme kept = m_scheme;
+    std::erase_if(kept, [](auto const& entry) { return entry.second == 0; });
+    return kept;
+  }
 
  private:
   Scheme m_scheme;
@@ -134,6 +140,24 @@ TEST(MergeItem, IsCopiedWithTheScheme) {
   EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 1}, {2, 2}, {3, 1}}));
 }
 
+TEST(MergeItem, TakesNumbersThatNoRecordCanHave) {
+  CRenumber renumber;
+  renumber.Index(CModule::Node, {{1, 0}, {2, -3}, {3, 3}, {4, kHighestNumber + 1}});
+  renumber.IndexItem(CModule::Node, 0, 5);
+  renumber.IndexItem(CModule::Node, -3, -7);
+  renumber.IndexItem(CModule::Node, kHighestNumber + 1, 0);
+  EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 5}, {2, -7}, {3, 3}}));
+  renumber.IndexItem(CModule::Node, 0, 3);
+  EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 5}, {2, -7}, {3, 3}, {4, 3}}));
+}
+
+/// Numbers of records mostly, and some that none can have.
+int AnyNumber(Random& random) {
+  constexpr std::array kOthers{-1, 0, kHighestNumber + 1};
+  if (random.Percent(10)) return kOthers[static_cast<std::size_t>(random.Int(0, 2))];
+  return random.Int(1, 12);
+}
+
 TEST(MergeItem, EqualsThePlainFormOnRandomMerges) {
   constexpr int kRuns = 200;
   for (std::uint32_t seed = 1; seed <= kRuns; ++seed) {
@@ -153,8 +177,8 @@ TEST(MergeItem, EqualsThePlainFormOnRandomMerges) {
         renumber.Index(CModule::Node);
         plain.IndexStale(SchemeOf(renumber, CModule::Node));
       }
-      int const from = random.Int(1, 12);
-      int const to = random.Int(1, 12);
+      int const from = AnyNumber(random);
+      int const to = AnyNumber(random);
       renumber.IndexItem(CModule::Node, from, to);
       plain.Item(from, to);
       ASSERT_EQ(SchemeOf(renumber, CModule::Node), plain.Map()) << from << " to " << to;

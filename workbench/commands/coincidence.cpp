@@ -143,7 +143,7 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
 void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   CZelData const before(model);
   auto const items = SelectByOptions(model, SelNode, arguments, result);
-  auto const others = Select(model, SelNode, arguments.Text("--with"));
+  auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
   double const tolerance = ToleranceOf(model, arguments, result);
   auto tool =
       SearchIn(model, Union(items, others), tolerance, CoincidenceStageOf(model, arguments));
@@ -162,7 +162,7 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
 
 void JoinNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const items = SelectByOptions(model, SelNode, arguments, result);
-  auto const others = Select(model, SelNode, arguments.Text("--with"));
+  auto const others = Select(model, SelNode, arguments.Text("--with"), "--with");
   auto tool = SearchIn(model, Union(items, others), ToleranceOf(model, arguments, result),
                        CoincidenceStageOf(model, arguments));
   tool.SetOption(CReduceCoinc::OptionJoint);

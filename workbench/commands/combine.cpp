@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "store/model/list_expansion.h"
 #include "store/record/task_slot.h"
+#include "store/select/numbers.h"
 #include "workbench/commands/combine_report.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/selection.h"
@@ -21,8 +23,9 @@ constexpr std::array kCombineOptions{
     Option{"--families", "TEXT", ValueKind::Text, "persistent,characteristic",
            "what to write, with commas between: persistent, accidental, seismic, characteristic, "
            "frequent, quasi-permanent, or all"},
-    Option{"--psi", "0|1|2", ValueKind::Choice, "1",
-           "factor of the leading variable action beside an accidental one"},
+    Option{
+        "--psi", "0|1|2", ValueKind::Choice, "1",
+        "which psi the leading variable action has beside an accidental one: psi0, psi1 or psi2"},
     Option{"--seismic", "srss|30", ValueKind::Choice, "srss",
            "directions of an earthquake by the root of the squares, or in full with 30 per cent of "
            "the others"},
@@ -57,18 +60,15 @@ std::array<bool, kNumCombTypes> FamiliesOf(std::string_view text) {
 }
 
 std::vector<int> TasksOf(CZelData const& model, std::string const& text, CommandResult& result) {
+  auto const list = ListOf(SelNone, text, "--tasks");
+  // Up to 0, "all" and "*" are nothing: this is what the text itself names.
+  for (int const n : Util::Item(list, model, 0))
+    if (!model.AnalysisTaskExist(n))
+      result.warnings.push_back({"missing-task", "AnalysisTask", n,
+                                 "analysis task " + std::to_string(n) + " does not exist"});
   std::vector<int> tasks;
-  if (text == "all") {
-    for (auto const& entry : model.AnalysisTask()) tasks.push_back(static_cast<int>(entry.first));
-  } else {
-    for (int const n : Select(model, SelNone, text)) {
-      if (model.AnalysisTaskExist(n))
-        tasks.push_back(n);
-      else
-        result.warnings.push_back({"missing-task", "AnalysisTask", n,
-                                   "analysis task " + std::to_string(n) + " does not exist"});
-    }
-  }
+  for (int const n : Util::Item(list, model, model.HighestAnalysisTask()))
+    if (model.AnalysisTaskExist(n)) tasks.push_back(n);
   if (tasks.empty())
     result.warnings.push_back(
         {"empty-selection", "", 0, "'" + text + "' selects no analysis task"});
@@ -117,13 +117,16 @@ std::string CountsText(CombinationPlan const& plan) {
   return text + ")";
 }
 
-/// Refuses a family that the model has no cases for, and more combinations than are asked for.
-void RequirePossible(CombineRun const& run, bool yes) {
+/// Refuses a family that the model has no cases for, and more combinations than are asked for or
+/// than have a number.
+void RequirePossible(CZelData const& model, CombineRun const& run, bool yes) {
   if (run.plan.actions.empty()) return;
   if (run.choice.families[CombUlsAccidental] && run.plan.families[CombUlsAccidental] == 0)
     throw Refusal(FamilyNames::Of(CombUlsAccidental) + ": no accidental cases");
   if (run.choice.families[CombUlsSeismic] && run.plan.families[CombUlsSeismic] == 0)
     throw Refusal(FamilyNames::Of(CombUlsSeismic) + ": no seismic cases");
+  if (int const room = kHighestNumber - model.HighestCombinationCase(); run.plan.Total() > room)
+    throw Refusal(CountsText(run.plan) + ": numbers are left for " + std::to_string(room));
   if (run.plan.Total() > kMostCombinations && !yes)
     throw Refusal(CountsText(run.plan) + ": more than " + std::to_string(kMostCombinations) +
                   " only with --yes");
@@ -139,7 +142,7 @@ void RunCombine(CZelData& model, CLoadCombinationGeneratorEuro& generator,
   run.plan = generator.Plan();
   for (auto const& leftOut : run.plan.leftOut)
     result.undone.push_back({"AnalysisCase", leftOut.analysisCase, LeftOutText(leftOut)});
-  RequirePossible(run, arguments.Flag("--yes"));
+  RequirePossible(model, run, arguments.Flag("--yes"));
   result.did = generator.Combine();
   run.families = ReadFamilies(model, run.plan);
   result.text = CombineText(model, run);

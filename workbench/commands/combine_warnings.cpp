@@ -2,7 +2,9 @@
 #include <algorithm>
 
 #include "store/record/cases.h"
+#include "store/select/case_expression.h"
 #include "workbench/commands/combine_report.h"
+#include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -19,15 +21,29 @@ constexpr int kVariableActions = 3;
 constexpr int kAccidentalActions = 4;
 constexpr int kSeismicActions = 5;
 
+/// Whether a family has the factors of its own limit state.
+bool HasOwnFactors(CombType type) {
+  return type != CombSlsFrequent && type != CombSlsQuasiPermanent;
+}
+
 /// Whether a family lets one variable action lead.
 bool HasLeadingAction(CombType type) {
   return type != CombUlsSeismic && type != CombSlsQuasiPermanent;
 }
 
-/// The factors psi of the standard.
-class StandardFactors : public CLoadCombinationGeneratorEuro {
+/// The factors psi of a generator, and what it takes analysis cases for.
+template <class Generator>
+class KnownFactors : public Generator {
  public:
-  explicit StandardFactors(CZelData& model) { SetData(&model); }
+  explicit KnownFactors(CZelData& model) { Generator::SetData(&model); }
+  using Generator::AnalysisCase;
+  using Generator::Psi;
+};
+
+/// The factors psi of the standard.
+class StandardFactors : public KnownFactors<CLoadCombinationGeneratorEuro> {
+ public:
+  using KnownFactors::KnownFactors;
 
   /// Whether a family has a variable action with a factor other than 0.
   bool Has(CombType family, Data::CLoadCaseTitle const& title, int psiAccidental) const {
@@ -47,19 +63,24 @@ class StandardFactors : public CLoadCombinationGeneratorEuro {
   }
 };
 
+/// Index of the psi that an accompanying variable action has in a family.
+int AccompanyingPsi(CombType family) {
+  return family == CombUlsPersistent || family == CombSlsCharacteristic ? 0 : 2;
+}
+
 /// The comparison of one run.
 class Comparison {
  public:
   Comparison(CZelData& model, CombineRun const& run)
-      : m_model(model), m_run(run), m_standard(model) {}
+      : m_model(model), m_run(run), m_standard(model), m_uk(model) {}
 
   std::vector<Warning> Compare() {
     CompareLeftOutSources();
     CompareModes();
+    CompareModesOfCases();
     CompareAlternatives();
     ComparePrestress();
     CompareRain();
-    CompareRoofsInUk();
     for (auto const& family : m_run.families) CompareFamily(family);
     return std::move(m_warnings);
   }
@@ -75,6 +96,10 @@ class Comparison {
   bool IsInAnyFamily(Data::CLoadCaseTitle const& title) const {
     return std::any_of(m_run.families.begin(), m_run.families.end(),
                        [&](auto const& family) { return HasFactor(family.type, title); });
+  }
+  double AccompanyingFactor(CombType family, Data::CLoadCaseTitle const& title) const {
+    int const index = AccompanyingPsi(family);
+    return m_run.choice.isUk ? m_uk.Psi(index, title) : m_standard.Psi(index, title);
   }
   bool IsOn(CombType type) const {
     return std::any_of(m_run.families.begin(), m_run.families.end(),
@@ -132,6 +157,26 @@ class Comparison {
     }
   }
 
+  /// The first case of a source gives its mode to all others.
+  void CompareModesOfCases() {
+    for (auto const& [n, title] : m_run.plan.actions) {
+      int const tens = TensOf(title.TypeOf());
+      if (tens != kPermanentActions && tens != kPrestressActions) continue;
+      auto const tree = Data::ReadCases(m_model.CombinationCase(n).Description().Text());
+      if (!tree) continue;
+      for (auto const& part : tree->parts) {
+        if (part.kind != Data::CasePart::Kind::Case) continue;
+        if (m_standard.AnalysisCase(part.first.Case()).PermanentMode() == title.PermanentMode())
+          continue;
+        WarnOf("permanent-modes-differ", n,
+               " has the permanent mode of its first case, and A" +
+                   std::to_string(part.first.Case()) + " has another",
+               "Table A1.2(B), note 3, has one factor for all permanent actions of one source");
+        break;
+      }
+    }
+  }
+
   /// Sources that act together by the standard and are taken one at a time.
   void CompareAlternatives() {
     for (auto const type :
@@ -174,13 +219,31 @@ class Comparison {
                "Table A1.1, has no row for rain: the factor is the engineer's to set");
   }
 
-  void CompareRoofsInUk() {
-    if (!m_run.choice.isUk || !(IsOn(CombUlsPersistent) || IsOn(CombSlsCharacteristic))) return;
-    for (auto const& [n, title] : m_run.plan.actions)
-      if (title.TypeOf() == CaseType::ImposedRoof)
-        WarnOf("roof-accompanying", n,
-               " is never taken beside a leading action with its factor psi0",
-               "6.4.3.2 (6.10) and 6.5.3 (6.14b), with 0.7 by the national annex");
+  bool HasOnlyImposedVariable() const {
+    auto const& actions = m_run.plan.actions;
+    return std::none_of(actions.begin(), actions.end(), [](auto const& entry) {
+      auto const type = entry.second.TypeOf();
+      return TensOf(type) == kVariableActions && type != CaseType::Imposed &&
+             type != CaseType::ImposedRoof;
+    });
+  }
+  /// Roofs are taken with the imposed action of their source only, both leading. Without variable
+  /// actions of other kinds that action never accompanies either.
+  void CompareRoofs(WrittenFamily const& family, std::string const& clause) {
+    bool const onlyImposed = CountActions(CaseType::ImposedRoof) > 0 && HasOnlyImposedVariable();
+    for (auto const& [n, title] : m_run.plan.actions) {
+      bool const leadsOnly = title.TypeOf() == CaseType::ImposedRoof ||
+                             (title.TypeOf() == CaseType::Imposed && onlyImposed);
+      if (!leadsOnly || !family.offered.contains(n)) continue;
+      double const factor = AccompanyingFactor(family.type, title);
+      if (factor == 0) continue;
+      auto const psi = "psi" + std::to_string(AccompanyingPsi(family.type));
+      WarnOf("roof-accompanying", n,
+             " is in no alternative of " + CombinationText(m_model, family.last) +
+                 " beside a leading action with its " + psi + ", " + NumberText(factor),
+             clause + ", has it there" +
+                 (m_run.choice.isUk ? ", with the factors of the national annex" : ""));
+    }
   }
 
   void CompareFamily(WrittenFamily const& family) {
@@ -208,6 +271,7 @@ class Comparison {
       WarnOf("leading-factor", family.last, " has psi0 for the leading variable action",
              clause + " and Table A1.3, has psi1 or psi2");
     if (HasLeadingAction(family.type)) CompareSingleAction(family, clause);
+    if (HasOwnFactors(family.type) && HasLeadingAction(family.type)) CompareRoofs(family, clause);
     CompareImposedActions(family, clause);
     if (!hasEmptyEnvelope) CompareMissingActions(family, clause);
   }
@@ -244,14 +308,18 @@ class Comparison {
   }
 
   /// Alternatives with a companion in the place of its imposed action, or with a roof, are without
-  /// that action. Where the favourable factor is 0 they give nothing else.
+  /// that action; where none leads roofs take turns with the others too. Where the favourable
+  /// factor, or the accompanying one, is 0 they give nothing else.
   void CompareImposedActions(WrittenFamily const& family, std::string const& clause) {
-    bool const hasOwnFactors = family.type == CombUlsAccidental || family.type == CombUlsSeismic ||
-                               family.type == CombSlsCharacteristic;
-    if (!hasOwnFactors || CountImposedLeaders() > 1) return;
+    if (!HasOwnFactors(family.type) || family.type == CombUlsPersistent) return;
+    bool const floorsTakeTurns = CountImposedLeaders() > 1;  // which is told
     for (auto const& [n, title] : m_run.plan.actions) {
+      bool const counts = title.TypeOf() == CaseType::ImposedRoof
+                              ? !HasLeadingAction(family.type)
+                              : title.TypeOf() == CaseType::Imposed && !floorsTakeTurns;
       auto const offered = family.offered.find(n);
-      if (title.TypeOf() != CaseType::Imposed || offered == family.offered.end()) continue;
+      if (!counts || offered == family.offered.end()) continue;
+      if (AccompanyingFactor(family.type, title) == 0) continue;
       auto const& values = offered->second.values;
       if (values.size() > 1 && values.contains(0))
         WarnOf("absent-from-some", n,
@@ -271,6 +339,7 @@ class Comparison {
   CZelData const& m_model;
   CombineRun const& m_run;
   StandardFactors m_standard;
+  KnownFactors<CLoadCombinationGeneratorEuroUK> m_uk;
   std::vector<Warning> m_warnings;
 };
 

@@ -59,18 +59,19 @@ SelType KindOf(std::string_view word) {
   return SelNone;
 }
 
-Data::CEntList ListOf(SelType kind, std::string const& text) {
+Data::CEntList ListOf(SelType kind, std::string const& text, std::string const& option) {
   Data::CEntList list(kind, L"");
   Data::ListFault fault{};
   if (!list.SetString(CString::FromUtf8(text), &fault)) {
-    auto place = "--list: character " + std::to_string(fault.position + 1);
+    auto place = option + ": character " + std::to_string(fault.position + 1);
     throw UsageError((place += ": ") += fault.reason.ToUtf8());
   }
   return list;
 }
 
-Util::CSet Select(CZelData const& model, SelType kind, std::string const& listText) {
-  return Util::MakeSet(ListOf(kind, listText), model, true);
+Util::CSet Select(CZelData const& model, SelType kind, std::string const& listText,
+                  std::string const& option) {
+  return Util::MakeSet(ListOf(kind, listText, option), model, true);
 }
 
 Util::CSet SelectByOptions(CZelData const& model, SelType kind, Arguments const& arguments,

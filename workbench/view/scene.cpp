@@ -138,7 +138,7 @@ class SceneMaker {
     if (!m_request.allNodes)
       for (int const n : m_shown) AddNode(n, m_model.Node(n));
     else
-      for (auto const& [n, node] : m_model.Node()) AddNode(static_cast<int>(n), node);
+      for (auto const& [n, node] : m_model.StoredNodes()) AddNode(static_cast<int>(n), node);
   }
 
   void AddNode(int n, Data::CNode const& node) {

@@ -338,6 +338,16 @@ TEST_F(Attachments, OfACopyTakenInAHoldAreTrue) {
   EXPECT_EQ(Attached(model), "1|1 2|2||");
 }
 
+TEST_F(Attachments, AreNotBroughtUpToDateByAWalkThatAsksNothingOfThem) {
+  model.rebuildHold = true;
+  model.SetElem(3, Element(ElementType::Beam, {4, 5}));
+  model.FlagRebuild();
+  EXPECT_EQ(model.StoredNodes().Find(4)->NumEntAttached(SelElement), 0);
+  EXPECT_EQ(model.StoredNodes().size(), 5u);
+  EXPECT_EQ(Attached(model), "1|1 2|2|3|3");
+  EXPECT_EQ(model.StoredNodes().Find(4)->NumEntAttached(SelElement), 1);
+}
+
 // The raw store.
 
 TEST_F(Attachments, OfANodeThatIsReplacedRawStay) {

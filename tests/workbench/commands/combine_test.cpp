@@ -62,6 +62,20 @@ class Combine : public Testing::RunTest {
     for (auto const& warning : json.at("warnings")) codes.push_back(warning.at("code"));
     return codes;
   }
+  /// What is told of the accompanying factors of roofs in a family, from the factor on.
+  std::vector<std::string> RoofWarnings(std::string const& model, std::string const& family,
+                                        bool isUk) {
+    std::vector<std::string> options{"--families", family};
+    if (isUk) options.emplace_back("--uk");
+    std::vector<std::string> texts;
+    auto const json = Run(model, options).Json();
+    for (auto const& warning : json.at("warnings")) {
+      if (warning.at("code") != "roof-accompanying") continue;
+      auto const text = warning.at("text").get<std::string>();
+      texts.push_back(text.substr(text.find("with its ") + std::string("with its ").size()));
+    }
+    return texts;
+  }
 };
 
 using Texts = std::vector<std::string>;
@@ -150,7 +164,62 @@ TEST_F(Combine, TakesTheCasesOfTheTasksGiven) {
   Data(text, {"--tasks", "1 to 2", "--families", "characteristic"});
   EXPECT_EQ(Written().front(), "Permanent : Self weight 1 = A1");
   EXPECT_EQ(Codes(text, {"--tasks", "1 7", "--families", "characteristic"}), Texts{"missing-task"});
-  EXPECT_EQ(Run(text, {"--tasks", "1 to"}).exit, 2);
+  auto const fault = Run(text, {"--tasks", "1 to"}, false);
+  EXPECT_EQ(fault.exit, 2);
+  EXPECT_EQ(fault.err, "tarvex: --tasks: character 3: a range without its end\n");
+}
+
+/// Static tasks 1, 2, 3 and 5 with a case each: A1 self weight, A2 offices, A3 wind, A4 snow.
+/// Stages where told.
+std::string FourTasks(int stages) {
+  auto text = Cases({kSelfWeight, kOffices, kWind, R"("type": 34)"});
+  std::string const task = R"({"n": 1, "class": "CZssTask"})";
+  std::string more;
+  for (auto const* n : {"2", "3", "5"})
+    more += std::string(R"(, {"n": )") + n + R"(, "class": "CZssTask"})";
+  text.insert(text.find(task) + task.size(), more);
+  for (auto const& [from, to] : {std::pair{R"("L2", "task": 1)", R"("L2", "task": 2)"},
+                                 std::pair{R"("L3", "task": 1)", R"("L3", "task": 3)"},
+                                 std::pair{R"("L4", "task": 1)", R"("L4", "task": 5)"}})
+    text.replace(text.find(from), std::string(from).size(), to);
+  std::string rows;
+  for (int n = 1; n <= stages; ++n)
+    rows += (n == 1 ? R"({"n": )" : R"(, {"n": )") + std::to_string(n) + "}";
+  if (stages > 0) text.insert(text.find("\"LoadCaseTitle\""), "\"AnalStage\": [" + rows + "],\n");
+  return text;
+}
+
+TEST_F(Combine, TakesAllTasksUpToTheHighestHoweverManyStagesThereAre) {
+  Texts const all{"Permanent : Self weight 1 = A1", "Variable : Imposed 1B = A2",
+                  "Variable : Wind 1 = A3", "Variable : Snow 1 = A4"};
+  Texts const withoutFirst(all.begin() + 1, all.end());
+  struct Row {
+    char const* tasks;
+    Texts basic;
+    Texts codes;
+  };
+  for (int const stages : {0, 2, 9})
+    for (auto const& row :
+         {Row{"all", all, {}}, Row{" all", all, {}}, Row{"1 to *", all, {}}, Row{"*", {all[3]}, {}},
+          Row{"all not 1", withoutFirst, {}}, Row{"all not (3 to 5)", {all[0], all[1]}, {}},
+          Row{"2 to * not 4", withoutFirst, {}},
+          Row{"1 to 5 not 1", withoutFirst, {"missing-task"}},  // 4
+          Row{"all 8", all, {"missing-task"}}}) {
+      SCOPED_TRACE(std::string(row.tasks) + ", stages: " + std::to_string(stages));
+      auto const result =
+          Run(FourTasks(stages), {"--tasks", row.tasks, "--families", "characteristic"});
+      EXPECT_EQ(result.exit, 0) << result.out;
+      auto written = Written();
+      std::erase_if(written,
+                    [](auto const& line) { return line.find("= A") == std::string::npos; });
+      EXPECT_EQ(written, row.basic);
+      Texts codes;
+      auto const json = result.Json();
+      for (auto const& warning : json.at("warnings"))
+        if (warning.at("code") == "missing-task") codes.push_back(warning.at("code"));
+      EXPECT_EQ(codes, row.codes);
+    }
+  EXPECT_EQ(Codes(FourTasks(0), {"--tasks", "6 to *"}), (Texts{"empty-selection", "no-actions"}));
 }
 
 TEST_F(Combine, TakesTheFactorBesideAnAccidentalAction) {
@@ -258,6 +327,22 @@ TEST_F(Combine, WritesMoreThanTenThousandOnlyWhereTold) {
             10005);
 }
 
+TEST_F(Combine, RefusesMoreThanNumbersAreLeftFor) {
+  // 1 basic; self weight and the final combination: 3.
+  auto const behind = [](int highest) {
+    auto text = Cases({kSelfWeight});
+    text.insert(text.rfind('}'), ",\n\"CombinationCase\": [{\"n\": " + std::to_string(highest) +
+                                     ", \"name\": \"kept\", \"description\": \"A1\"}]\n");
+    return text;
+  };
+  EXPECT_EQ(Run(behind(99'999'997), {"--families", "persistent"}).exit, 0);
+  auto const refused = Run(behind(99'999'998), {"--families", "persistent", "--yes"}, false);
+  EXPECT_EQ(refused.exit, 3);
+  EXPECT_EQ(refused.err,
+            "tarvex: 3 combinations would be written (1 basic, ULS Persistent 2): numbers are left "
+            "for 2\n");
+}
+
 TEST_F(Combine, SaysHowManyWouldBeWrittenInADryRunToo) {
   auto const dryRun = [&](std::string const& model) {
     return RunTarvex({"combine", Write("in.json", model), "--families", "persistent", "--dry-run"});
@@ -361,6 +446,111 @@ TEST_F(Combine, WarnsOfRoofsOfAnotherSourceThanAnyFloor) {
   EXPECT_EQ(Codes(with(1), {"--families", "persistent"}), Texts());
   EXPECT_EQ(Codes(with(2), {"--families", "persistent"}), Texts{"action-left-out"});
   EXPECT_EQ(Codes(with(1), {"--families", "persistent", "--uk"}), Texts{"roof-accompanying"});
+}
+
+std::string Roof(int source, int category) {
+  return R"("type": 32, "source": )" + std::to_string(source) + R"(, "category": )" +
+         std::to_string(category);
+}
+
+TEST_F(Combine, WarnsOfRoofsThatNeverAccompany) {
+  struct Row {
+    int category;
+    char const* psi0;    ///< nothing for 0
+    char const* psi0Uk;  ///< with the national annex
+    char const* psi2;
+  };
+  for (auto const& row :
+       {Row{1, "0.7", "0.7", "0.3"}, Row{2, "0.7", "0.7", "0.3"}, Row{3, "0.7", "0.7", "0.6"},
+        Row{4, "0.7", "0.7", "0.6"}, Row{5, "1", "1", "0.8"}, Row{6, "0.7", "0.7", "0.6"},
+        Row{7, "0.7", "0.7", "0.3"}, Row{8, "", "0.7", ""}}) {
+    // The offices are of a category of their own, so that the roof is an action of its own.
+    auto const floor = row.category == 2 ? R"("type": 31, "category": 1)" : kOffices;
+    auto const model = Cases({kSelfWeight, floor, kWind, Roof(1, row.category)});
+    struct Told {
+      char const* family;
+      bool isUk;
+      std::string factor;
+      char const* clause;
+    };
+    for (auto const& told :
+         {Told{"persistent", false, row.psi0, "6.4.3.2 (6.10), has it there"},
+          Told{"persistent", true, row.psi0Uk,
+               "6.4.3.2 (6.10), has it there, with the factors of the national annex"},
+          Told{"characteristic", false, row.psi0, "6.5.3 (6.14b), has it there"}}) {
+      SCOPED_TRACE(std::to_string(row.category) + " " + told.family);
+      EXPECT_EQ(RoofWarnings(model, told.family, told.isUk),
+                told.factor.empty() ? Texts()
+                                    : Texts{"psi0, " + told.factor + "; EN 1990, " + told.clause});
+    }
+    auto const accidental =
+        Cases({kSelfWeight, floor, kWind, Roof(1, row.category), R"("type": 41)"});
+    EXPECT_EQ(RoofWarnings(accidental, "accidental", false),
+              std::string(row.psi2).empty() ? Texts()
+                                            : Texts{"psi2, " + std::string(row.psi2) +
+                                                    "; EN 1990, 6.4.3.3 (6.11b), has it there"});
+  }
+}
+
+TEST_F(Combine, WarnsOfFloorsThatNeverAccompanyTheirRoof) {
+  auto const floor = R"("type": 31, "category": 1)";
+  std::vector<std::string> titles{kSelfWeight, floor, kOffices, Roof(1, 8)};
+  auto const clause = "psi0, 0.7; EN 1990, 6.4.3.2 (6.10), has it there";
+  EXPECT_EQ(RoofWarnings(Cases(titles), "persistent", false), (Texts{clause, clause}));
+  titles.push_back(kWind);  // beside which they do
+  EXPECT_EQ(RoofWarnings(Cases(titles), "persistent", false), Texts());
+}
+
+/// A model of some actions with an earthquake along x.
+std::string InAnEarthquake(std::vector<std::string> const& titles) {
+  auto text = Cases(titles, R"(, {"n": 99, "description": "M1", "task": 2, "modeDirection": 1})");
+  std::string const task = R"({"n": 1, "class": "CZssTask"})";
+  return text.insert(text.find(task) + task.size(), R"(, {"n": 2, "class": "CZdSpecTask"})");
+}
+
+TEST_F(Combine, WarnsOfRoofsThatTakeTurnsInAnEarthquake) {
+  auto const codes = [&](std::vector<std::string> const& titles) {
+    return Codes(InAnEarthquake(titles), {"--families", "seismic"});
+  };
+  EXPECT_EQ(codes({kSelfWeight, Roof(1, 1)}), Texts());
+  EXPECT_EQ(codes({kSelfWeight, Roof(1, 1), Roof(2, 1)}),
+            (Texts{"absent-from-some", "absent-from-some"}));
+  EXPECT_EQ(codes({kSelfWeight, Roof(1, 8), Roof(2, 8)}), Texts());  // psi2 0
+  // Floor and roof by turns, the floor with its 0.3 and the roof with 0.
+  EXPECT_EQ(codes({kSelfWeight, kOffices, Roof(2, 8)}), Texts{"absent-from-some"});
+  EXPECT_EQ(codes({kSelfWeight, kOffices, Roof(2, 1)}),
+            (Texts{"absent-from-some", "absent-from-some"}));
+  // Two floors by turns, which is told once for both, and a roof.
+  auto const upper = R"("type": 31, "source": 2, "category": 2)";
+  EXPECT_EQ(codes({kSelfWeight, kOffices, upper, Roof(3, 1)}),
+            (Texts{"taken-one-at-a-time", "absent-from-some"}));
+}
+
+TEST_F(Combine, DoesNotMissAFloorWhoseAccompanyingValueIsZero) {
+  auto const model = Cases({kSelfWeight, R"("type": 31, "category": 8)", kWind});
+  EXPECT_EQ(Codes(model, {"--families", "characteristic"}), Texts());
+}
+
+TEST_F(Combine, WarnsOfASourceWithSeveralPermanentModes) {
+  auto const modes = [](int type, std::vector<int> const& all) {
+    std::vector<std::string> titles{kWind};
+    for (int const mode : all)
+      titles.push_back(R"("type": )" + std::to_string(type) + R"(, "permanentMode": )" +
+                       std::to_string(mode));
+    return Cases(titles);
+  };
+  std::vector<std::string> const options{"--families", "characteristic"};
+  std::string const single = "single-variable-action";
+  for (int const type : {11, 12, 19, 21}) {
+    EXPECT_EQ(Codes(modes(type, {0, 0, 0}), options), Texts{single}) << type;
+    EXPECT_EQ(Codes(modes(type, {0, 0, 1}), options), (Texts{"permanent-modes-differ", single}));
+    EXPECT_EQ(Codes(modes(type, {2, 0}), options),
+              (Texts{"permanent-factor-zero", "permanent-modes-differ", single}));
+  }
+  auto const json = Run(modes(11, {0, 0, 1}), options).Json();
+  EXPECT_EQ(json.at("warnings").at(0), Json::parse(R"({
+      "code": "permanent-modes-differ", "table": "CombinationCase", "number": 1,
+      "text": "C1 Permanent : Self weight 1 has the permanent mode of its first case, and A4 has another; EN 1990, Table A1.2(B), note 3, has one factor for all permanent actions of one source"})"));
 }
 
 TEST_F(Combine, WarnsOfFloorsThatTakeTurns) {

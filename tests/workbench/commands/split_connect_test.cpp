@@ -138,7 +138,7 @@ TEST_F(SplitConnectCommand, ReportsLoadsOnLinesOnly) {
   text.replace(text.find(R"("text": "7"}, "type": 3)"), 11, R"("text": "all")");
   text.insert(
       text.find(R"("BeamLoad")"),
-      R"("FaceLoad": [{"loadedEntities": {"kind": 2, "text": "all"}, "type": 1, "value": [3]}],
+      R"("FaceLoad": [{"loadedEntities": {"kind": 2, "text": "all"}, "type": 1, "value": [3, 0, 0, 0]}],
 )");
   for (auto const& words :
        std::vector<std::vector<std::string>>{{"split", "--list", "7", "--at", "4"}, {"connect"}}) {
