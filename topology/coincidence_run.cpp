@@ -21,7 +21,7 @@ int CReduceCoinc::Run::Nearest(int place) {
 bool CReduceCoinc::Run::AreBare(int a, int b) {
   if (!m_bare) {
     m_bare.emplace(SelNode);
-    for (auto const& [number, node] : m_model.Node())
+    for (auto const& [number, node] : m_model.StoredNodes())
       if (node.Restraint().IsNone() && node.SpringProperty() == 0 && node.MassProperty() == 0 &&
           node.DamperProperty() == 0 && node.MeshSize() == 0)
         m_bare->AddTo(static_cast<int>(number));

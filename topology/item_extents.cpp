@@ -16,7 +16,7 @@ namespace Tarvex {
 namespace {
 
 std::array<std::uint64_t, 4> RevisionsOf(CZelData const& model) {
-  return {model.Node().Revision(), model.Elem().Revision(), model.LoadPanels().Revision(),
+  return {model.StoredNodes().Revision(), model.Elem().Revision(), model.LoadPanels().Revision(),
           model.Member().Revision()};
 }
 

@@ -204,6 +204,7 @@ class TARVEX_EXPORT CLoadCombinationGeneratorEuro {
   using Factors = std::pair<double, double>;
   using WrittenAction = std::pair<CaseType, int>;  // its combination
 
+  void MapCase(int n);
   template <class Visit>
   void ForEachSource(Visit&& visit) const;
   template <class FactorsOf>

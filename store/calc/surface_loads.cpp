@@ -105,6 +105,8 @@ void AddEdgeLoad(LoadSum& sum, Data::CEdgeLoad const& load, LoadDirection const&
                  Positions const& places, std::size_t corners) {
   auto const edge = static_cast<std::size_t>(load.Edge()) - 1;
   if (load.Edge() < 1 || edge >= corners) return sum.LeaveOut("an element has no such edge");
+  if (places.size() != corners && places.size() != 2 * corners)
+    return sum.LeaveOut("an element has not the nodes of its type");
   Positions nodes{places[edge], places[(edge + 1) % corners]};
   if (places.size() > corners) nodes.push_back(places[corners + edge]);
   auto const& kind = Util::ShapeKindOf(SpaceType::Line, static_cast<int>(nodes.size()));

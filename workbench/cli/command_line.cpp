@@ -28,7 +28,8 @@ void AddOwnOptions(CLI::App& app, Command const& command, Values& values, Test&&
     std::string const help(option.help);
     if (option.kind == ValueKind::Flag) {
       values.texts.emplace_back("true");
-      values.given.emplace_back(app.add_flag(name, help), name);
+      // A value such as "false" would count as given.
+      values.given.emplace_back(app.add_flag(name, help)->disable_flag_override(), name);
       continue;
     }
     auto& text = values.texts.emplace_back();
@@ -73,6 +74,8 @@ std::string Explain(CLI::ParseError const& fault) {
   if (fault.get_name() == "RequiredError")
     return what.starts_with("MODEL") ? "the model file is missing"
                                      : "the file " + what.substr(0, what.find(' ')) + " is missing";
+  if (what.ends_with("flag override"))
+    return "--" + what.substr(0, what.find(' ')) + " takes no value";
   return what.substr(0, what.find('\n'));
 }
 

@@ -9,6 +9,7 @@
 #include "workbench/file/model_reader.h"
 #include "workbench/file/model_writer.h"
 #include "workbench/file/references.h"
+#include "workbench/report/new_faults.h"
 #include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
@@ -73,7 +74,11 @@ void Run(Invocation const& invocation, Report& report) {
   step.Accept();
   if (report.changesModel) {
     report.changes = FindChanges(before, model);
-    if (!report.changes.empty()) report.totals = FindTotalChanges(before, model);
+    if (!report.changes.empty()) {
+      report.totals = FindTotalChanges(before, model);
+      // Each step of a recipe has told its own.
+      if (command.name != kRecipeCommand) WarnOfNewFaults(before, model, report.result);
+    }
     if (invocation.inPlace)
       ReplaceModel(model, invocation.model);
     else if (!invocation.dryRun)

@@ -5,13 +5,11 @@
 #include <map>
 #include <nlohmann/json.hpp>
 #include <set>
-#include <tuple>
 
 #include "store/record/joint.h"
 #include "store/record/node.h"
 #include "tarvex/coincidence.h"
 #include "workbench/commands/selection.h"
-#include "workbench/report/integrity.h"
 #include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
@@ -119,27 +117,6 @@ void WarnOfMoves(CZelData const& before, std::map<int, int> const& survivors, do
   }
 }
 
-using FindingKey = std::tuple<std::string, std::string, int, std::string>;
-
-FindingKey KeyOf(Finding const& finding) {
-  return {std::string(finding.code), std::string(finding.table), finding.number,
-          std::string(finding.field)};
-}
-
-/// Warns of faults that a model has and had not before.
-void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResult& result) {
-  std::set<FindingKey> known;
-  for (auto const& finding : FindFaults(before)) known.insert(KeyOf(finding));
-  for (auto const& finding : FindFaults(after)) {
-    auto const key = KeyOf(finding);
-    if (!known.insert(key).second) continue;
-    auto const& [code, table, number, field] = key;
-    std::string text = table;
-    for (auto const& part : {" " + std::to_string(number), " " + field, ": " + code}) text += part;
-    result.warnings.push_back({code, table, number, text + " since the merge"});
-  }
-}
-
 void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   CZelData const before(model);
   auto const items = SelectByOptions(model, SelNode, arguments, result);
@@ -154,7 +131,6 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
   auto const survivors = SurvivorsOf(pairs);
   result.maps["Node"].assign(survivors.begin(), survivors.end());
   WarnOfMoves(before, survivors, tolerance, result);
-  WarnOfNewFaults(before, model, result);
   if (model.AnyResults())
     result.warnings.push_back(
         {"stale-results", "", 0, "results still stand under the numbers before the merge"});

@@ -6,6 +6,7 @@
 #include "workbench/cli/command_line.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/read_file.h"
+#include "workbench/report/new_faults.h"
 #include "workbench/report/report.h"
 
 namespace Tarvex::Workbench {
@@ -97,7 +98,9 @@ void RunStep(CZelData& model, RecipeStep const& step, Report& report) {
   report.changesModel = step.command->kind == CommandKind::Changes;
   step.command->run(model, step.arguments, report.result);
   report.changes = FindChanges(before, model);
-  if (!report.changes.empty()) report.totals = FindTotalChanges(before, model);
+  if (report.changes.empty()) return;
+  report.totals = FindTotalChanges(before, model);
+  WarnOfNewFaults(before, model, report.result);
 }
 
 void RunRecipe(CZelData& model, Arguments const& arguments, CommandResult& result) {

@@ -185,6 +185,12 @@ Data::CEntList ParsedList(SelType kind, std::string const& text) {
   return list;
 }
 
+/// Elements and load panels share their numbers: whether one stands in the table that is named.
+bool IsOfTable(CZelData const& model, std::string_view stem, int n) {
+  if (stem == "Elem") return model.ElemExist(n);
+  return stem != "LoadPanel" || model.LoadPanelExist(n);
+}
+
 Records RecordsToDelete(CZelData const& model, Arguments const& arguments, CommandResult& result) {
   Records gone;
   auto const& text = arguments.Text("--list");
@@ -199,7 +205,8 @@ Records RecordsToDelete(CZelData const& model, Arguments const& arguments, Comma
   if (auto const& stem = arguments.Text("--table"); !stem.empty()) {
     auto const module = ModuleOf(stem);
     auto const list = ParsedList(SelNone, text);
-    for (int const n : Util::Item(list, model, model.HighestRecord(module))) take(module, n);
+    for (int const n : Util::Item(list, model, model.HighestRecord(module)))
+      if (IsOfTable(model, stem, n)) take(module, n);
   } else if (arguments.Text("--kind") == "case") {
     auto const list = ParsedList(SelCase, text);
     int const count = Util::NumItem(list, model);

@@ -160,9 +160,27 @@ void Split(CZelData& model, Arguments const& arguments, CommandResult& result) {
   if (!extended) ReportForces(before, model, result);  // an extension bears loads of its own
 }
 
+/// Lines that pass one another within a tolerance as long as themselves are cut in ever more
+/// pieces, which pass one another again: such a tolerance is refused.
+void RequireShortTolerance(CZelData const& model, Util::CSet const& set, double tolerance) {
+  for (int const n : set) {
+    SEntRef const ref(set.TypeOf(), n);
+    if (!model.EntExist(ref) || model.EntNumTopo(ref) != 2) continue;
+    int const a = model.EntTopo(ref, 0);
+    int const b = model.EntTopo(ref, 1);
+    if (!model.NodeExist(a) || !model.NodeExist(b)) continue;
+    double const length = Length(model.NodeCoor(b) - model.NodeCoor(a));
+    if (length > 0 && tolerance >= length)
+      throw Refusal("--tol " + NumberText(tolerance) + " m is not shorter than " +
+                    SelTypeLabel(set.TypeOf()).ToUtf8() + " " + std::to_string(n) + ", which is " +
+                    NumberText(length) + " m long");
+  }
+}
+
 void Connect(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
   auto const set = SelectByOptions(model, kind, arguments, result);
+  RequireShortTolerance(model, set, arguments.Number("--tol"));
   bool const references = !arguments.Flag("--no-references");
   CZelData const before(model);
   CConnect1dEl tool(model);

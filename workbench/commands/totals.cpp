@@ -64,7 +64,8 @@ void Totals(CZelData& model, Arguments const&, CommandResult& result) {
 
 constexpr std::array kTotalsCommands{
     Command{"totals",
-            "sum the loads of each load case, with their moment about the origin, and the mass",
+            "sum the loads of each load case, with their moment about the origin, and the mass "
+            "of the elements",
             {},
             CommandKind::Reads,
             &Totals}};

@@ -377,6 +377,18 @@ TEST(SumLoads, OfEdgesRunsFromCornerToCorner) {
   ExpectUncounted(model, "EdgeLoad", "an element has no such edge");
 }
 
+TEST(SumLoads, OfEdgesIsNotWorkedOutWithoutTheNodesOfTheType) {
+  for (auto const& nodes : {std::vector<int>{1, 2}, {1, 2, 3}, {1, 2, 3, 4, 5}}) {
+    CZelData model;
+    for (int i = 0; i < 5; ++i) Testing::NodeAt(model, i, i % 2, 0);
+    auto plate = Testing::Element(ElementType::Quad4, {1, 2, 3, 4});
+    plate.SetTopology(nodes);
+    model.SetElem(1, plate);
+    model.SetEdgeLoad(1, EdgeLoad(2, 3, 3));
+    EXPECT_FALSE(SumLoads(model).uncounted.empty()) << nodes.size() << " nodes";
+  }
+}
+
 TEST(SumLoads, OfEdgesFollowsTheirMiddleNodes) {
   CZelData model;
   Testing::ElementAt(

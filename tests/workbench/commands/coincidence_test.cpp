@@ -90,7 +90,8 @@ TEST_F(CoincidenceCommand, MergeNodesTakesWhatTheNodeThatStaysGets) {
 
 TEST_F(CoincidenceCommand, MergeNodesWarnsOfChainsAndOfElementsThatLoseTheirLength) {
   // 8 is 2 from 7 and 7 is 1 from 1: beam 4, from 7 to 8, ends twice at 1, 3 from where 8 was.
-  auto const data = Change({"merge-nodes", "--tolerance", "2.1", "--list", "1 7 8", "--with", "1"});
+  auto const data =
+      Change({"merge-nodes", "--tolerance", "2.1", "--list", "1 7 8", "--with", "1"}, 1);
   EXPECT_EQ(data.at("maps"), Json::parse(R"({"Node": [[7, 1], [8, 1]]})"));
   EXPECT_EQ(data.at("did"), true);
   bool chain = false;

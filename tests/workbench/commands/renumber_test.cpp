@@ -281,6 +281,20 @@ TEST_F(DeleteCommand, RefusesANodeThatATopologyNeeds) {
             "Node 6 can't be deleted: LoadPanel 8 needs it");
 }
 
+TEST_F(DeleteCommand, TellsElementsFromLoadPanelsWhichShareTheirNumbers) {
+  RunOn({"delete", "--table", "LoadPanel", "--list", "3"}, 0);
+  EXPECT_EQ(Numbers("Elem"), std::vector<int>{3});
+  RunOn({"delete", "--table", "Elem", "--list", "8"}, 0);
+  EXPECT_EQ(Numbers("LoadPanel"), std::vector<int>{8});
+  RunOn({"delete", "--table", "LoadPanel", "--list", "8"}, 0);
+  EXPECT_TRUE(Table("LoadPanel").empty());
+}
+
+TEST_F(DeleteCommand, TakesNoValueForAFlag) {
+  for (auto const* flag : {"--with-users=false", "--with-users=0", "--with-users=no"})
+    EXPECT_EQ(ErrorText({"delete", "--list", "6", flag}, 2), "--with-users takes no value");
+}
+
 TEST_F(DeleteCommand, TakesUsersAlongWhenToldTo) {
   auto const data = Data({"delete", "--kind", "node", "--list", "4", "--with-users"});
   EXPECT_EQ(data.at("maps"),

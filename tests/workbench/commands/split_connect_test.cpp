@@ -53,8 +53,18 @@ TEST_F(SplitConnectCommand, SplitCutsABeamAndTakesLoadsAndReferencesAlong) {
   EXPECT_EQ(report.at("warnings").at(0).at("number"), 9);
 }
 
+TEST_F(SplitConnectCommand, ConnectRefusesAToleranceAsLongAsALine) {
+  for (auto const* tolerance : {"6", "6.5"}) {  // element 8 is 6 m long
+    auto const report = RunOn({"connect", "--tol", tolerance}, 3);
+    EXPECT_EQ(report.at("error").at("text"), std::string("--tol ") + tolerance +
+                                                 " m is not shorter than element 8, which is 6 m "
+                                                 "long");
+  }
+  RunOn({"connect", "--tol", "5.9"}, 0);
+}
+
 TEST_F(SplitConnectCommand, SplitLeavesReferencesAloneWhenTold) {
-  RunOn({"split", "--list", "7", "--at", "4", "--no-references"});
+  RunOn({"split", "--list", "7", "--at", "4", "--no-references"}, 1);
   EXPECT_EQ(Out().at("List").at(0).at("text"), "7");
   EXPECT_EQ(Out().at("BeamLoad").size(), 1);
 }
@@ -223,7 +233,7 @@ TEST_F(SplitConnectCommand, ConnectNamesALoadWhoseRangeHoldsPiecesAlone) {
 }
 
 TEST_F(SplitConnectCommand, ConnectCutsMembersAndWarnsOfTheirReferences) {
-  auto const report = RunOn({"connect", "--kind", "member"});
+  auto const report = RunOn({"connect", "--kind", "member"}, 1);
   EXPECT_EQ(report.at("data").at("changes").at("Member").at("removed"), Json({1, 2}));
   EXPECT_EQ(report.at("warnings").at(0).at("code"), "member-references");
 }
