@@ -1,4 +1,6 @@
 // Quadrilaterals replaced by two triangles each.
+#include <boost/container/static_vector.hpp>
+
 #include "frame/rebuild_hold.h"
 #include "members/plate_corners.h"
 #include "tarvex/conversion.h"
@@ -42,8 +44,9 @@ Data::CElement TriangleOf(Data::CElement const& quad, int i, int diagonal) {
   auto triangle = quad;
   triangle.SetType(quadratic ? ElementType::Tri6 : ElementType::Tri3);
   triangle.Lock(false);
-  std::vector<int> nodes;
-  std::vector<CElemConnect> connects;
+  constexpr std::size_t kMostNodes = 6;
+  boost::container::static_vector<int, kMostNodes> nodes;
+  boost::container::static_vector<CElemConnect, kMostNodes> connects;
   auto const take = [&](int place) {
     nodes.push_back(quad.Topo(place));
     connects.push_back(quad.Connect(place));
@@ -54,7 +57,7 @@ Data::CElement TriangleOf(Data::CElement const& quad, int i, int diagonal) {
     nodes.push_back(diagonal);
     connects.emplace_back(connects[0].Release() & connects[2].Release());
   }
-  triangle.SetTopo(nodes);
+  triangle.SetTopo({nodes.data(), nodes.size()});
   for (std::size_t place = 0; place < connects.size(); ++place)
     triangle.SetConnect(static_cast<int>(place), connects[place]);
   return triangle;

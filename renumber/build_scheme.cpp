@@ -91,4 +91,8 @@ void CRenumber::IndexItem(CModule::ModuleId module, int from, int to) {
   if (auto* scheme = m_parts->schemes.Find(module)) scheme->Merge(from, to);
 }
 
+void CRenumber::IndexItems(CModule::ModuleId module, std::span<std::pair<int, int> const> pairs) {
+  if (auto* scheme = m_parts->schemes.Find(module)) scheme->Merge(pairs);
+}
+
 }  // namespace Tarvex

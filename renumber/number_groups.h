@@ -38,6 +38,10 @@ class NumberGroups {
   void Add(int number, int old);
   /// The group of a new number, kNone when there is none. It is good until the next Join.
   int Of(int number) const { return m_groups.Of(number); }
+  /// Told some questions before one about a number, so that its group is at hand by then.
+  void Expect(int number) const {
+    if (int const group = Of(number); group != kNone) __builtin_prefetch(&At(group));
+  }
   /// The number of a member's group.
   int NumberOf(int member) const { return At(RootOf(member)).number; }
 

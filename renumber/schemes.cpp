@@ -17,7 +17,7 @@ bool Schemes::HasProperties() const {
 Schemes Schemes::Settled() const {
   Schemes settled;
   ForEach([&](Id module, NumberScheme const& scheme) {
-    settled.m_slots[module] = {true, scheme.Settled()};
+    settled.m_slots[module] = {true, scheme.SettledInRow()};
   });
   return settled;
 }

@@ -36,7 +36,7 @@ class Schemes {
   }
   /// Whether properties are renumbered.
   bool HasProperties() const;
-  /// The schemes that tables have, for many look-ups.
+  /// The schemes that tables have, for many look-ups: they are not to be changed.
   Schemes Settled() const;
 
   /// Gives a table an empty scheme in the place of any that it has.

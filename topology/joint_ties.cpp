@@ -29,6 +29,7 @@ void JointTies::Add(int a, int b) {
 }
 
 bool JointTies::AreTied(int a, int b) const {
+  if (m_tied.empty()) return false;
   auto const found = m_tied.find(a);
   return found != m_tied.end() && std::ranges::find(found->second, b) != found->second.end();
 }

@@ -57,6 +57,7 @@ template <class Table>
 class LoadSheet {
  public:
   LoadSheet(CZelData& model, CDataMgr::NumberLists const& pieces) : m_model(model) {
+    if (Table::Highest(model) == 0) return;
     std::vector<int> missing;
     for (auto const& [parent, subs] : pieces) {
       if (parent < 1 || model.LoadPanelExist(parent)) continue;

@@ -121,6 +121,7 @@ void MapTemperatures(CZelData const& model, Loads& loads, Data::CFaceThermalLoad
 
 bool CDataMgr::MapFaceLoading(NumberLists const& pieces) const {
   CUndoStep step(m_model, false);
+  if (m_model.HighestFaceLoad() == 0) return step.Accept(), true;
   LoadSheet<FaceLoads> loads(m_model, pieces);
   bool all = true;
   for (auto const& [parent, subs] : pieces) {

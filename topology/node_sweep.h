@@ -1,6 +1,7 @@
 // The nearest of many nodes, asked of one after the other while none moves.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <span>
 #include <vector>
@@ -34,8 +35,12 @@ class NodeSweep {
   int Nearest(int place, JointTies const& ties) const;
   /// Told some questions before one for a place, so that its neighbourhood is at hand by then.
   void Expect(int place) const {
-    __builtin_prefetch(&m_items[static_cast<std::size_t>(place)]);
-    __builtin_prefetch(&PointAt(place));
+    constexpr int kApart = 3;  // places that memory gives at a time, about
+    for (int const at : {place - kApart, place, place + kApart}) {
+      int const inside = std::clamp(at, 0, NumPlaces() - 1);
+      __builtin_prefetch(&m_items[static_cast<std::size_t>(inside)]);
+      __builtin_prefetch(&PointAt(inside));
+    }
   }
 
  private:

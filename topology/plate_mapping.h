@@ -15,6 +15,7 @@ namespace Tarvex {
 template <class Table, class Wanted, class Map>
 bool MapByPair(CZelData& model, CDataMgr::NumberLists const& pieces, Wanted&& wanted, Map&& map) {
   CUndoStep step(model, false);
+  if (Table::Highest(model) == 0) return step.Accept(), true;
   LoadSheet<Table> loads(model, pieces);
   bool all = true;
   for (auto const& [parent, subs] : pieces) {

@@ -1,6 +1,7 @@
 // Coincident nodes merged or joined.
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <stdexcept>
 
 #include "frame/rebuild_hold.h"
@@ -108,8 +109,7 @@ bool CReduceCoinc::RunOver(std::vector<std::pair<int, int>>& pairs, Walk&& walk)
   if (!did || !merging) return did;
   CRenumber renumber(&m_model);
   renumber.Index(Data::CEntList(m_order.TypeOf(), CString()), CModule::None);
-  for (auto i = before; i < pairs.size(); ++i)
-    renumber.IndexItem(EntModId(SelNode), pairs[i].first, pairs[i].second);
+  renumber.IndexItems(EntModId(SelNode), std::span(pairs).subspan(before));
   renumber.Go(false);
   return true;
 }
@@ -149,7 +149,7 @@ std::vector<std::pair<int, int>> CReduceCoinc::FindAllCoinc(Util::CSet const& it
 /// As FindCoinc, with what a run keeps at hand.
 int CReduceCoinc::FindIn(Run& run, int item) const {
   int const place = m_order.GetIndexFromRef(item);
-  bool const listed = m_order.TypeOf() == SelNode && place >= 0 && m_model.NodeExist(item);
+  bool const listed = m_order.TypeOf() == SelNode && place >= 0;
   return listed ? run.Nearest(place) : FindCoinc(item, false);
 }
 

@@ -12,6 +12,7 @@
 
 #include <map>
 #include <memory>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -61,6 +62,8 @@ class TARVEX_EXPORT CRenumber {
   /// Gives everything that now becomes `from` the new number `to` instead; chains hold. Costs the
   /// logarithm of the number of records, taken over many calls.
   void IndexItem(CModule::ModuleId module, int from, int to);
+  /// The same for many pairs (from, to), one after the other.
+  void IndexItems(CModule::ModuleId module, std::span<std::pair<int, int> const> pairs);
   /// The new number; the number itself for a table without a scheme and for one below 1; 0 for a
   /// record that goes.
   int MapItem(CModule::ModuleId module, int number) const;

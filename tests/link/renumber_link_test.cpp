@@ -41,8 +41,8 @@ TEST(RenumberLink, EveryMemberIsThere) {
   using Map = std::map<int, std::vector<int>>;
   using Numbers = std::vector<int>;
   EXPECT_TRUE(AreLinked(
-      &CRenumber::SetData, &CRenumber::SetRefOnly, &CRenumber::IndexItem, &CRenumber::MapItem,
-      &CRenumber::Go, &CRenumber::AdjustCaseRefs, &CRenumber::MapCaseDesc,
+      &CRenumber::SetData, &CRenumber::SetRefOnly, &CRenumber::IndexItem, &CRenumber::IndexItems,
+      &CRenumber::MapItem, &CRenumber::Go, &CRenumber::AdjustCaseRefs, &CRenumber::MapCaseDesc,
       Member<void(CModule::ModuleId)>(&CRenumber::Index),
       Member<void(CModule::ModuleId, unsigned int, int)>(&CRenumber::Index),
       Member<void(SelType, Vec3<double> const&)>(&CRenumber::Index),

@@ -151,6 +151,21 @@ TEST(MergeItem, TakesNumbersThatNoRecordCanHave) {
   EXPECT_EQ(SchemeOf(renumber, CModule::Node), (Scheme{{1, 5}, {2, -7}, {3, 3}, {4, 3}}));
 }
 
+TEST(MergeItem, TakesManyPairsOneAfterTheOther) {
+  Random random(4);
+  std::vector<std::pair<int, int>> pairs;
+  for (int i = 0; i < 60; ++i) pairs.emplace_back(random.Int(1, 100), random.Int(1, 100));
+  CRenumber each;
+  CRenumber all;
+  for (auto* renumber : {&each, &all}) renumber->Index(CModule::Node, Identity(100));
+  for (auto const& [from, to] : pairs) each.IndexItem(CModule::Node, from, to);
+  all.IndexItems(CModule::Node, pairs);
+  EXPECT_EQ(SchemeOf(all, CModule::Node), SchemeOf(each, CModule::Node));
+  EXPECT_NE(SchemeOf(all, CModule::Node), Identity(100));
+  all.IndexItems(CModule::Elem, pairs);  // a table without a scheme
+  EXPECT_EQ(all.MapItem(CModule::Elem, pairs[0].first), pairs[0].first);
+}
+
 /// Numbers of records mostly, and some that none can have.
 int AnyNumber(Random& random) {
   constexpr std::array kOthers{-1, 0, kHighestNumber + 1};

@@ -1,6 +1,6 @@
 // Connecting with the search for near lines against the plain form, which tries all pairs. It takes
-// each step as the tool does, so it holds the search to account and not the rules of a meeting: those
-// have their tests in connect_1d_el_test.cpp.
+// each step as the tool does, so it holds the search to account and not the rules of a meeting:
+// those have their tests in connect_1d_el_test.cpp.
 #include <algorithm>
 #include <cmath>
 

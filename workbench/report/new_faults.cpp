@@ -11,18 +11,18 @@ namespace {
 
 /// What faults are counted by: code, table and field.
 using FaultGroup = std::tuple<std::string, std::string, std::string>;
-using Numbers = std::multiset<int>;
+using FaultyRecords = std::multiset<int>;
 
 FaultGroup GroupOf(Finding const& finding) { return {finding.code, finding.table, finding.field}; }
 
-std::map<FaultGroup, Numbers> NumbersByGroup(CZelData const& model) {
-  std::map<FaultGroup, Numbers> numbers;
+std::map<FaultGroup, FaultyRecords> NumbersByGroup(CZelData const& model) {
+  std::map<FaultGroup, FaultyRecords> numbers;
   for (auto const& finding : FindFaults(model)) numbers[GroupOf(finding)].insert(finding.number);
   return numbers;
 }
 
 /// The records with a fault that they had not before, as many as there are more faults.
-std::vector<int> NewOnes(Numbers const& before, Numbers const& after) {
+std::vector<int> NewOnes(FaultyRecords const& before, FaultyRecords const& after) {
   std::vector<int> fresh;
   if (after.size() <= before.size()) return fresh;
   auto const more = after.size() - before.size();
@@ -44,7 +44,7 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
   for (auto const& [group, numbers] : NumbersByGroup(after)) {
     auto const& [code, table, field] = group;
     auto const found = known.find(group);
-    auto fresh = NewOnes(found == known.end() ? Numbers() : found->second, numbers);
+    auto fresh = NewOnes(found == known.end() ? FaultyRecords() : found->second, numbers);
     std::erase_if(fresh, [&](int n) { return told.contains({table, n}); });
     for (std::size_t i = 0; i < fresh.size() && i < kMost; ++i) {
       auto text = table + " " + std::to_string(fresh[i]) + " " + field + ": " + code;

@@ -418,8 +418,10 @@ TEST_F(Combine, CountsPermutationsUpToTheHighestNumber) {
 
 TEST_F(Combine, WarnsWhereVariableActionsAreAllOfOneKind) {
   auto const model = Cases({kSelfWeight, Wind(1), Wind(2)});
-  EXPECT_EQ(Codes(model, {}), (Texts{"no-alternative", "no-alternative"}));
-  auto const data = Data(model, {"--families", "persistent"});
+  // The combination that collects the alternatives has none to name.
+  EXPECT_EQ(Codes(model, {}), (Texts{"no-alternative", "no-alternative", "description-not-readable",
+                                     "description-not-readable"}));
+  auto const data = Data(model, {"--families", "persistent"}, 1);
   EXPECT_EQ(data.at("result").at("families").at(0).at("permutations"), 0);
   EXPECT_EQ(data.at("result").at("families").at(0).at("factors"), Json::array());
   // One factor for each action needs no leading one.
