@@ -22,6 +22,12 @@ std::string OutputOf(Invocation const& invocation) {
   return invocation.inPlace ? invocation.model : invocation.output;
 }
 
+/// Whether an option names a file that is read.
+bool NamesInput(Option const& option) {
+  return option.kind == ValueKind::FileBefore || option.kind == ValueKind::FileBehind ||
+         option.value == "FILE";
+}
+
 void CheckOutput(Invocation const& invocation) {
   namespace fs = std::filesystem;
   auto const& output = invocation.output;
@@ -29,7 +35,15 @@ void CheckOutput(Invocation const& invocation) {
   std::error_code ignored;
   if (!fs::exists(fs::symlink_status(output, ignored))) return;
   if (invocation.model != kStandardStream && fs::equivalent(output, invocation.model, ignored))
-    throw UsageError("the output is the input: use --in-place");
+    throw UsageError(invocation.command->kind == CommandKind::Changes
+                         ? "the output is the input: use --in-place"
+                         : "the output is the input");
+  for (auto const& option : invocation.command->options) {
+    if (!NamesInput(option)) continue;
+    auto const& input = invocation.arguments.Text(option.name);
+    if (!input.empty() && input != kStandardStream && fs::equivalent(output, input, ignored))
+      throw UsageError("the output is an input: " + input);
+  }
   if (!invocation.force) throw UsageError(output + " exists: use --force to replace it");
 }
 
@@ -120,6 +134,14 @@ void PrintMessages(Invocation const& invocation, Report const& report, std::ostr
   }
 }
 
+/// The exit code of a run whose report went to a stream: a report that can't be written is a fault
+/// of its own.
+int ExitBehind(std::ostream const& stream, ExitCode exit, std::ostream& err) {
+  if (stream) return static_cast<int>(exit);
+  err << "tarvex: the report cannot be written\n";
+  return static_cast<int>(ExitCode::File);
+}
+
 }  // namespace
 
 Report RunInvocation(Invocation const& invocation) {
@@ -136,7 +158,7 @@ int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::os
     report = RunInvocation(invocation);
   if (!invocation.print.empty()) {
     out << invocation.print << std::flush;
-    return static_cast<int>(ExitCode::Done);
+    return ExitBehind(out, ExitCode::Done, err);
   }
   PrintMessages(invocation, report, err);
   bool const json = invocation.json || (report.failure && AsksForJson(words));
@@ -146,7 +168,7 @@ int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::os
     reportStream << ReportJson(report) << std::flush;
   else if (!report.failure && !invocation.quiet)
     reportStream << ReportText(report, invocation.verbose) << std::flush;
-  return static_cast<int>(report.exit);
+  return ExitBehind(reportStream, report.exit, err);
 }
 
 }  // namespace Tarvex::Workbench

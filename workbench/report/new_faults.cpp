@@ -42,12 +42,16 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
   for (auto const& undone : result.undone) told.emplace(undone.table, undone.number);
   for (auto const& warning : result.warnings) told.emplace(warning.table, warning.number);
   for (auto const& [group, numbers] : NumbersByGroup(after)) {
-    auto const& [code, table, field] = group;
+    auto const& code = std::get<0>(group);
+    auto const& table = std::get<1>(group);
+    auto const& field = std::get<2>(group);
     auto const found = known.find(group);
     auto fresh = NewOnes(found == known.end() ? FaultyRecords() : found->second, numbers);
     std::erase_if(fresh, [&](int n) { return told.contains({table, n}); });
     for (std::size_t i = 0; i < fresh.size() && i < kMost; ++i) {
-      auto text = table + " " + std::to_string(fresh[i]) + " " + field + ": " + code;
+      auto text = table;
+      for (auto const& part : {" " + std::to_string(fresh[i]), " " + field, ": " + code})
+        text += part;
       if (i + 1 == kMost && fresh.size() > kMost)
         text += ", and " + std::to_string(fresh.size() - kMost) + " more";
       result.warnings.push_back({code, table, fresh[i], text + ", which was not before"});

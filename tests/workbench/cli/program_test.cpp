@@ -44,6 +44,32 @@ TEST_F(Program, AnUnknownCommandIsOneLineAndTwo) {
   EXPECT_EQ(result.err, "tarvex: unknown command 'frobnicate', see tarvex --help\n");
 }
 
+TEST_F(Program, AReportThatCannotBeWrittenIsAFault) {
+  for (auto const& words : std::vector<std::vector<std::string>>{
+           {"info", Model()}, {"info", Model(), "--json"}, {"--version"}}) {
+    std::ostream out(nullptr);  // takes nothing
+    std::ostringstream err;
+    EXPECT_EQ(Workbench::RunProgram(words, out, err), 4);
+    EXPECT_EQ(err.str(), "tarvex: the report cannot be written\n");
+  }
+}
+
+TEST_F(Program, NoInputIsReplacedByTheOutput) {
+  auto const recipe = Write("steps.recipe", "flip --list 1\n");
+  auto const run = RunTarvex({"run", recipe, Model(), "-o", recipe, "--force"});
+  EXPECT_EQ(run.exit, 2);
+  EXPECT_EQ(run.err, "tarvex: the output is an input: " + recipe + "\n");
+  EXPECT_EQ(Read("steps.recipe"), "flip --list 1\n");
+  auto const map = Write("numbers.map", "1 2\n");
+  auto const renumbered =
+      RunTarvex({"renumber", Model(), "--table", "Node", "--map", map, "-o", map, "--force"});
+  EXPECT_EQ(renumbered.exit, 2);
+  EXPECT_EQ(renumbered.err, "tarvex: the output is an input: " + map + "\n");
+  EXPECT_EQ(Read("numbers.map"), "1 2\n");
+  auto const picture = RunTarvex({"picture", Model(), "-o", Path("in.json"), "--force"});
+  EXPECT_EQ(picture.err, "tarvex: the output is the input\n");
+}
+
 TEST_F(Program, NoCommandIsOneLineAndTwo) {
   auto const result = RunTarvex({});
   EXPECT_EQ(result.exit, 2);
