@@ -6,8 +6,10 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
+#include "store/model/list_expansion.h"
 #include "store/record/joint.h"
 #include "store/record/node.h"
+#include "store/record/node_load.h"
 #include "tarvex/coincidence.h"
 #include "workbench/commands/selection.h"
 #include "workbench/report/text.h"
@@ -117,6 +119,21 @@ void WarnOfMoves(CZelData const& before, std::map<int, int> const& survivors, do
   }
 }
 
+/// A load on a list acts once on each of its nodes: nodes of one list that became one bear it once.
+void WarnOfFewerLoadedNodes(CZelData const& before, CZelData const& after, CommandResult& result) {
+  int const highest = std::min(before.HighestNodeLoad(), after.HighestNodeLoad());
+  for (int n = 1; n <= highest; ++n) {
+    int const was = Util::NumItem(before.NodeLoad(n).LoadedEntities(), before);
+    int const is = Util::NumItem(after.NodeLoad(n).LoadedEntities(), after);
+    if (is >= was) continue;
+    result.warnings.push_back({"fewer-loaded-nodes", "NodeLoad", n,
+                               "NodeLoad " + std::to_string(n) + " acts on " +
+                                   Counted(static_cast<std::size_t>(is), "node") + ", and on " +
+                                   std::to_string(was) + " before"});
+    result.lookAt = true;
+  }
+}
+
 void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   CZelData const before(model);
   auto const items = SelectByOptions(model, SelNode, arguments, result);
@@ -131,6 +148,7 @@ void MergeNodes(CZelData& model, Arguments const& arguments, CommandResult& resu
   auto const survivors = SurvivorsOf(pairs);
   result.maps["Node"].assign(survivors.begin(), survivors.end());
   WarnOfMoves(before, survivors, tolerance, result);
+  WarnOfFewerLoadedNodes(before, model, result);
   if (model.AnyResults())
     result.warnings.push_back(
         {"stale-results", "", 0, "results still stand under the numbers before the merge"});

@@ -105,6 +105,22 @@ TEST_F(CoincidenceCommand, MergeNodesWarnsOfChainsAndOfElementsThatLoseTheirLeng
   ASSERT_EQ(m_warnings.size(), 2);
 }
 
+TEST_F(CoincidenceCommand, MergeNodesWarnsOfLoadsThatActOnFewerNodes) {
+  // Both loads are 2 x -5 before; the one whose list holds both of the merged nodes is -5 behind.
+  auto const model = Write("loaded.json", Testing::kHeader + R"(,
+"Node": [{"n": 1, "position": [0, 0, 0]}, {"n": 2, "position": [0, 0, 0]},
+{"n": 3, "position": [9, 0, 0]}],
+"NodeLoad": [{"loadedEntities": "1 2", "direction": 3, "value": -5},
+{"loadedEntities": "2 3", "direction": 3, "value": -5}]}
+)");
+  auto const result = RunTarvex({"merge-nodes", model, "--dry-run", "--json"});
+  EXPECT_EQ(result.exit, 1);
+  auto const warnings = result.Json().at("warnings");
+  ASSERT_EQ(warnings.size(), 1);
+  EXPECT_EQ(warnings.at(0).at("code"), "fewer-loaded-nodes");
+  EXPECT_EQ(warnings.at(0).at("text"), "NodeLoad 1 acts on 1 node, and on 2 before");
+}
+
 TEST_F(CoincidenceCommand, JoinNodesPlacesAJointAndReportsWhatIsLeft) {
   auto const data = Change({"join-nodes"});
   EXPECT_EQ(data.at("changes").at("Joint").at("added"), Json({1}));

@@ -296,7 +296,8 @@ TEST_F(ConversionCommand, RefineTakesElementsOfAnIdentifierAndGivesItToNodes) {
   ASSERT_EQ(data.at("undone").size(), 1u);
   EXPECT_EQ(data.at("undone").at(0).at("number"), 1);
   EXPECT_EQ(data.at("undone").at(0).at("why"), "it has another identifier");
-  for (auto const& node : Json::parse(Read("out.json")).at("Node"))
+  auto const out = Json::parse(Read("out.json"));
+  for (auto const& node : out.at("Node"))
     EXPECT_EQ(node.value("sid", ""), node.at("n").get<int>() > 28 ? "mine" : "") << node.at("n");
 }
 
