@@ -354,7 +354,8 @@ TEST_F(DeleteCommand, WantsAList) {
 }
 
 TEST_F(DeleteCommand, RefusesTablesThatCannotLoseRecords) {
-  ErrorText({"delete", "--table", "DamperProp", "--list", "6"}, 3);
+  EXPECT_EQ(ErrorText({"delete", "--table", "DamperProp", "--list", "6"}, 3),
+            "records of DamperProp can't be deleted by renumbering");
 }
 
 class TidyCommand : public RenumberCommand {};
@@ -410,8 +411,8 @@ TEST_F(TidyCommand, FitsTheTypesOf2dProperties) {
 }
 
 TEST_F(TidyCommand, WantsSomethingToDo) {
-  ErrorText({"tidy"}, 2);
-  ErrorText({"tidy", "--compact", "--sections"}, 2);
+  EXPECT_EQ(ErrorText({"tidy"}, 2), "give --blank, --compact or --fit-2d-types");
+  EXPECT_EQ(ErrorText({"tidy", "--compact", "--sections"}, 2), "--sections goes with --blank");
 }
 
 }  // namespace
