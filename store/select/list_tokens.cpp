@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
 
 #include "store/select/case_tokens.h"
 
@@ -17,6 +18,46 @@ bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 std::wstring_view Bare(std::wstring_view word) {
   return word.ends_with(L' ') ? word.substr(0, word.size() - 1) : word;
 }
+
+/// The words of lists by what a text or a token is searched for: a list that writes out its numbers
+/// has a hundred thousand of them.
+class WordIndex {
+ public:
+  WordIndex() {
+    for (auto const& word : ListWords()) {
+      m_byToken.emplace(word.token, &word);
+      m_byLetter[Bare(word.text).front()].push_back(&word);
+    }
+    for (auto& [letter, words] : m_byLetter)
+      std::stable_sort(words.begin(), words.end(), [](auto const* one, auto const* other) {
+        return Bare(one->text).size() > Bare(other->text).size();
+      });
+  }
+
+  static WordIndex const& Instance() {
+    static WordIndex const kIndex;
+    return kIndex;
+  }
+
+  /// The word of a token, null when it is none.
+  ListWord const* OfToken(int token) const {
+    auto const at = m_byToken.find(token);
+    return at == m_byToken.end() ? nullptr : at->second;
+  }
+
+  /// The longest word that a text, which is not empty, begins with, null when it is none.
+  ListWord const* AtBegin(std::wstring_view text) const {
+    auto const at = m_byLetter.find(text.front());
+    if (at == m_byLetter.end()) return nullptr;
+    for (auto const* word : at->second)
+      if (text.starts_with(Bare(word->text))) return word;
+    return nullptr;
+  }
+
+ private:
+  std::unordered_map<int, ListWord const*> m_byToken;
+  std::unordered_map<wchar_t, std::vector<ListWord const*>> m_byLetter;  // the longest first
+};
 
 /// Reads one text from left to right.
 class Reader {
@@ -90,14 +131,10 @@ class Reader {
   }
 
   bool ReadWord() {
-    ListWord const* best = nullptr;
-    for (auto const& word : ListWords())
-      if (m_text.substr(m_at).starts_with(Bare(word.text)) &&
-          (best == nullptr || Bare(word.text).size() > Bare(best->text).size()))
-        best = &word;
-    if (best == nullptr) return Fail(L"an unknown word");
-    m_tokens.words.push_back(best->token);
-    m_at += Bare(best->text).size();
+    auto const* const word = WordIndex::Instance().AtBegin(m_text.substr(m_at));
+    if (word == nullptr) return Fail(L"an unknown word");
+    m_tokens.words.push_back(word->token);
+    m_at += Bare(word->text).size();
     return true;
   }
 
@@ -112,19 +149,12 @@ class Reader {
   CString m_reason;
 };
 
-ListWord const* FindWord(int token) {
-  auto const& words = ListWords();
-  auto const at = std::find_if(words.begin(), words.end(),
-                               [&](ListWord const& word) { return word.token == token; });
-  return at == words.end() ? nullptr : &*at;
-}
-
 /// Text of a word that is no quoted name.
 std::wstring TextOf(int token) {
   if (IsNumberToken(token)) return std::to_wstring(token);
   if (auto const ref = CaseOfToken(token); ref.type != CaseOp::None)
     return LetterOfCase(ref.type) + std::to_wstring(ref.num);
-  auto const* word = FindWord(token);
+  auto const* word = WordIndex::Instance().OfToken(token);
   return word == nullptr ? std::wstring() : std::wstring(Bare(word->text));
 }
 
@@ -151,7 +181,7 @@ std::vector<ListWord> const& ListWords() {
   return kWords;
 }
 
-bool IsListWord(int token) { return FindWord(token) != nullptr; }
+bool IsListWord(int token) { return WordIndex::Instance().OfToken(token) != nullptr; }
 
 bool IsPrefixWord(int token) {
   return (token <= -13 && token >= -39) || (token <= -50 && token >= -58);
