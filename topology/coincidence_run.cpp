@@ -13,9 +13,19 @@ JointTies& CReduceCoinc::Run::Ties() {
   return *m_ties;
 }
 
-int CReduceCoinc::Run::Nearest(int place) {
+NodeSweep const& CReduceCoinc::Run::Sweep() {
   if (!m_sweep) m_sweep.emplace(m_order, m_model, m_tolerance);
-  return m_sweep->Nearest(place, Ties());
+  return *m_sweep;
+}
+
+void CReduceCoinc::Run::FindAll(NodeSweep::Among among) {
+  m_nearest = Sweep().NearestOfEach(among, Ties());
+}
+
+int CReduceCoinc::Run::Nearest(int node, int place) {
+  bool const known = !m_nearest.empty() && m_order.IsItemIncluded(node);
+  return known ? m_nearest[static_cast<std::size_t>(place)]
+               : Sweep().Nearest(place, NodeSweep::Among::All, Ties());
 }
 
 bool CReduceCoinc::Run::AreBare(int a, int b) {

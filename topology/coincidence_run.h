@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <unordered_set>
+#include <vector>
 
 #include "store/model/zel_data.h"
 #include "tarvex/coincidence.h"
@@ -17,13 +18,11 @@ class CReduceCoinc::Run {
  public:
   Run(CZelData& model, COrderSet const& order, double tolerance, int stage);
 
-  /// The node nearest to that at a place of the list, 0 for none.
-  int Nearest(int place);
-  /// Told some items before one whose neighbour will be asked for.
-  void Expect(int number) const {
-    int const place = m_sweep ? m_order.GetIndexFromRef(number) : -1;
-    if (place >= 0) m_sweep->Expect(place);
-  }
+  /// Finds the neighbours of all listed nodes in one go along the list, before any is asked for.
+  /// For runs in which it is known beforehand who is left in the set when a node is asked for.
+  void FindAll(NodeSweep::Among among);
+  /// The node nearest to one that is at a place of the list, 0 for none.
+  int Nearest(int node, int place);
   /// Whether two nodes have nothing that a merge could carry over: no restraint, no property, no
   /// mesh size. It spares the look at most records.
   bool AreBare(int a, int b);
@@ -36,12 +35,14 @@ class CReduceCoinc::Run {
 
  private:
   JointTies& Ties();
+  NodeSweep const& Sweep();
 
   CZelData& m_model;
   COrderSet const& m_order;
   double m_tolerance;
   int m_stage;
   std::optional<NodeSweep> m_sweep;
+  std::vector<int> m_nearest;  // by place, where they were found in one go
   std::optional<JointTies> m_ties;
   std::optional<Util::CSet> m_bare;
   std::optional<CZelData> m_before;  // the run's own joints would make each question costly

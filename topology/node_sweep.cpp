@@ -52,12 +52,13 @@ bool NodeSweep::HasLongSlices() const {
   return candidates > kOftenMet * count;
 }
 
-bool NodeSweep::Counts(int place, int other, JointTies const& ties) const {
+bool NodeSweep::Counts(int place, int other, Among among, JointTies const& ties) const {
   int const node = NodeAt(other);
+  if (among == Among::Lower && node > NodeAt(place)) return false;
   return m_order.IsItemIncluded(node) && !ties.AreTied(NodeAt(place), node);
 }
 
-NodeSweep::Best NodeSweep::BySlice(int place, JointTies const& ties) const {
+NodeSweep::Best NodeSweep::BySlice(int place, Among among, JointTies const& ties) const {
   Best best{m_tolerance, -1};
   double const at = AlongAt(place);
   bool const sorted = m_order.IsSorted();
@@ -67,7 +68,7 @@ NodeSweep::Best NodeSweep::BySlice(int place, JointTies const& ties) const {
     if (along > m_tolerance) return false;
     if (sorted && along > best.distance + m_slack) return false;  // nor can any further one win
     double const distance = Length(PointAt(other) - PointAt(place));
-    if (best.distance > distance && Counts(place, other, ties)) best = {distance, other};
+    if (best.distance > distance && Counts(place, other, among, ties)) best = {distance, other};
     return true;
   };
   for (int other = place + 1; other < NumPlaces() && visit(other);) ++other;
@@ -75,7 +76,7 @@ NodeSweep::Best NodeSweep::BySlice(int place, JointTies const& ties) const {
   return best;
 }
 
-NodeSweep::Best NodeSweep::ByCells(int place, JointTies const& ties) const {
+NodeSweep::Best NodeSweep::ByCells(int place, Among among, JointTies const& ties) const {
   Best best{m_tolerance, -1};
   double const at = AlongAt(place);
   m_cells->ForEachNear(PointAt(place), [&](int other) {
@@ -83,15 +84,23 @@ NodeSweep::Best NodeSweep::ByCells(int place, JointTies const& ties) const {
     double const distance = Length(PointAt(other) - PointAt(place));
     bool const better = best.distance > distance || (best.place >= 0 && best.distance == distance &&
                                                      MeetsFirst(place, other, best.place));
-    if (better && !(std::abs(AlongAt(other) - at) > m_tolerance) && Counts(place, other, ties))
+    if (better && !(std::abs(AlongAt(other) - at) > m_tolerance) &&
+        Counts(place, other, among, ties))
       best = {distance, other};
   });
   return best;
 }
 
-int NodeSweep::Nearest(int place, JointTies const& ties) const {
-  auto const best = m_cells ? ByCells(place, ties) : BySlice(place, ties);
+int NodeSweep::Nearest(int place, Among among, JointTies const& ties) const {
+  auto const best = m_cells ? ByCells(place, among, ties) : BySlice(place, among, ties);
   return best.place < 0 ? 0 : NodeAt(best.place);
+}
+
+std::vector<int> NodeSweep::NearestOfEach(Among among, JointTies const& ties) const {
+  std::vector<int> nearest;
+  nearest.reserve(m_items.size());
+  for (int place = 0; place < NumPlaces(); ++place) nearest.push_back(Nearest(place, among, ties));
+  return nearest;
 }
 
 }  // namespace Tarvex

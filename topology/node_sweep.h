@@ -1,7 +1,6 @@
 // The nearest of many nodes, asked of one after the other while none moves.
 #pragma once
 
-#include <algorithm>
 #include <optional>
 #include <span>
 #include <vector>
@@ -28,20 +27,16 @@ inline bool MeetsFirst(int from, int a, int b) {
 /// cells one tolerance wide instead.
 class NodeSweep {
  public:
+  /// Which other nodes are looked at: all, or those with a lower number than the node.
+  enum class Among { All, Lower };
+
   NodeSweep(COrderSet const& order, CZelData const& model, double tolerance);
 
-  /// The node nearest to that at a place of the list that is in the set and not tied to it, 0 for
-  /// none.
-  int Nearest(int place, JointTies const& ties) const;
-  /// Told some questions before one for a place, so that its neighbourhood is at hand by then.
-  void Expect(int place) const {
-    constexpr int kApart = 3;  // places that memory gives at a time, about
-    for (int const at : {place - kApart, place, place + kApart}) {
-      int const inside = std::clamp(at, 0, NumPlaces() - 1);
-      __builtin_prefetch(&m_items[static_cast<std::size_t>(inside)]);
-      __builtin_prefetch(&PointAt(inside));
-    }
-  }
+  /// Of the others that are in the set and not tied to the node at a place of the list, the
+  /// nearest, 0 for none.
+  int Nearest(int place, Among among, JointTies const& ties) const;
+  /// The nearest of each node, by place, found in one go along the list.
+  std::vector<int> NearestOfEach(Among among, JointTies const& ties) const;
 
  private:
   struct Best {
@@ -51,9 +46,9 @@ class NodeSweep {
 
   double FindSlack() const;
   bool HasLongSlices() const;
-  Best BySlice(int place, JointTies const& ties) const;
-  Best ByCells(int place, JointTies const& ties) const;
-  bool Counts(int place, int other, JointTies const& ties) const;
+  Best BySlice(int place, Among among, JointTies const& ties) const;
+  Best ByCells(int place, Among among, JointTies const& ties) const;
+  bool Counts(int place, int other, Among among, JointTies const& ties) const;
   int NumPlaces() const { return static_cast<int>(m_items.size()); }
   int NodeAt(int place) const { return m_items[static_cast<std::size_t>(place)].number; }
   double AlongAt(int place) const { return m_items[static_cast<std::size_t>(place)].projection; }

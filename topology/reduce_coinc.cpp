@@ -114,14 +114,28 @@ bool CReduceCoinc::RunOver(std::vector<std::pair<int, int>>& pairs, Walk&& walk)
   return true;
 }
 
+/// Finds the neighbours of all nodes along the list, where memory is read in its order, when the
+/// search set is among the items and so each node of it is asked for.
+///
+/// A search and joints leave the set as it is; a node that a joint of the run ties gets no other
+/// one. In a merge from the highest number down, no node that is still to come leaves the set, and
+/// each that has passed near it has left: it found one, this node at least, and that one was lower,
+/// since any higher one near it had left before for the same reason. So the nodes with lower
+/// numbers are those that a node finds in the set.
+void CReduceCoinc::Foresee(Util::CSet const& items, bool merging, Run& run) const {
+  if (m_order.TypeOf() != SelNode || !m_order.IsSorted()) return;
+  auto const isItem = [&](int number) { return items.IsItemIncluded(number); };
+  if (!std::ranges::all_of(m_order.Set(), isItem)) return;
+  run.FindAll(merging ? NodeSweep::Among::Lower : NodeSweep::Among::All);
+}
+
 bool CReduceCoinc::Do(Util::CSet const& items, std::vector<std::pair<int, int>>& pairs) {
   return RunOver(pairs, [&](Run& run) {
     bool did = false;
-    constexpr int kAhead = 16;  // items for which memory takes to answer
     int const lowest = items.LowestItem();
+    Foresee(items, IsMerge(m_option), run);
     // What a merge takes out was passed before: no number comes up that is gone.
     for (int n = items.HighestItem(); n >= lowest && n > 0; --n) {
-      run.Expect(n - kAhead);
       if (items.IsItemIncluded(n) && DoItem(n, run, pairs)) did = true;
     }
     return did;
@@ -140,6 +154,7 @@ bool CReduceCoinc::Do(int first, int count) {
 
 std::vector<std::pair<int, int>> CReduceCoinc::FindAllCoinc(Util::CSet const& items) const {
   Run run(m_model, m_order, m_tolerance, m_stage);
+  Foresee(items, false, run);
   std::vector<std::pair<int, int>> found;
   for (int const n : items)
     if (int const other = FindIn(run, n); other != 0) found.emplace_back(n, other);
@@ -150,7 +165,7 @@ std::vector<std::pair<int, int>> CReduceCoinc::FindAllCoinc(Util::CSet const& it
 int CReduceCoinc::FindIn(Run& run, int item) const {
   int const place = m_order.GetIndexFromRef(item);
   bool const listed = m_order.TypeOf() == SelNode && place >= 0;
-  return listed ? run.Nearest(place) : FindCoinc(item, false);
+  return listed ? run.Nearest(item, place) : FindCoinc(item, false);
 }
 
 bool CReduceCoinc::DoItem(int item, Run& run, std::vector<std::pair<int, int>>& pairs) {

@@ -123,6 +123,7 @@ class TARVEX_EXPORT CReduceCoinc {
 
   template <class Walk>
   bool RunOver(std::vector<std::pair<int, int>>& pairs, Walk&& walk);
+  void Foresee(Util::CSet const& items, bool merging, Run& run) const;
   int FindIn(Run& run, int item) const;
   bool DoItem(int item, Run& run, std::vector<std::pair<int, int>>& pairs);
   bool Join(int item, int other, Run& run);

@@ -204,6 +204,96 @@ TEST(CoincidenceOracle, MergesDoNotDependOnHowTheNodesCameIntoTheModel) {
   });
 }
 
+/// What a merge of the items pairs, by a question for each of them.
+Pairs MergesAskedOneByOne(CReduceCoinc& tool, Util::CSet const& items) {
+  Pairs pairs;
+  for (int n = items.HighestItem(); n > 0; --n) {
+    int const other = items.IsItemIncluded(n) ? tool.FindCoinc(n, false) : 0;
+    if (other == 0) continue;
+    pairs.emplace_back(std::max(n, other), std::min(n, other));
+    tool.RemoveFromSearchSet(std::max(n, other));
+  }
+  return pairs;
+}
+
+/// A part of a set, of about a share in percent.
+Util::CSet PartOf(Util::CSet const& set, int percent, Random& random) {
+  Util::CSet part(set.TypeOf());
+  for (int const n : set)
+    if (random.Percent(percent)) part.AddTo(n);
+  return part;
+}
+
+/// Calls check(model, tool, items) for searches over some nodes and items of which some are outside
+/// of the search set, and the other way round; the list sorted or not.
+template <class Check>
+void ForEachPartialSearch(Check&& check) {
+  for (std::uint32_t seed = 1; seed < 60; ++seed) {
+    SCOPED_TRACE(seed);
+    Random random(seed);
+    auto model = ModelOf(Clouds()[seed % 2 == 0 ? 0 : 3], 150, random);
+    auto const all = AllOf(model, SelNode);
+    CReduceCoinc tool(model, 0.9, 0);
+    tool.SetOrderVector({1, 0, 0});
+    int const steps = CReduceCoinc::kTakeSet | (seed % 5 == 0 ? 0 : CReduceCoinc::kSortList);
+    tool.SetSearchSet(PartOf(all, random.Of<int>({50, 90, 100}), random), steps);
+    // What leaves the set stays in the list, and can be asked for.
+    for (int const n : PartOf(all, random.Of<int>({0, 20}), random)) tool.RemoveFromSearchSet(n);
+    check(model, tool, PartOf(all, random.Of<int>({50, 90, 100}), random));
+  }
+}
+
+TEST(CoincidenceOracle, MergesOfSomeNodesAreThoseOfTheSearchNodeByNode) {
+  std::size_t merges = 0;
+  ForEachPartialSearch([&](CZelData&, CReduceCoinc& tool, Util::CSet const& items) {
+    auto asked = tool;
+    auto const expected = MergesAskedOneByOne(asked, items);
+    Pairs pairs;
+    tool.Do(items, pairs);
+    EXPECT_EQ(pairs, expected);
+    merges += pairs.size();
+  });
+  EXPECT_GT(merges, 1500U);
+}
+
+TEST(CoincidenceOracle, AnswersForSomeNodesAreThoseOfTheSearchNodeByNode) {
+  std::size_t answers = 0;
+  ForEachPartialSearch([&](CZelData&, CReduceCoinc& tool, Util::CSet const& items) {
+    Pairs expected;
+    for (int const n : items)
+      if (int const other = tool.FindCoinc(n, false); other != 0) expected.emplace_back(n, other);
+    EXPECT_EQ(tool.FindAllCoinc(items), expected);
+    answers += expected.size();
+  });
+  EXPECT_GT(answers, 1500U);
+}
+
+TEST(CoincidenceOracle, JointsAreThoseOfTheSearchNodeByNode) {
+  int joints = 0;
+  ForEachPartialSearch([&](CZelData& model, CReduceCoinc& tool, Util::CSet const& items) {
+    CZelData before(model);
+    tool.SetOption(CReduceCoinc::OptionJoint);
+    Pairs none;
+    tool.Do(items, none);
+    // The tool asks the model that it was made on: the joints go there one by one.
+    Pairs made;
+    for (int n = 1; n <= model.HighestJoint(); ++n)
+      made.emplace_back(model.Joint(n).PrimaryNode(), model.Joint(n).ConstrainedNode());
+    model = before;
+    Pairs expected;
+    for (int n = items.HighestItem(); n > 0; --n) {
+      int const other = items.IsItemIncluded(n) ? tool.FindCoinc(n, false) : 0;
+      if (other == 0 || model.NodeIsInConstraint(n, 0) || model.NodeIsInConstraint(other, 0))
+        continue;
+      Testing::JoinIn(model, other, n, L"0");
+      expected.emplace_back(other, n);
+    }
+    EXPECT_EQ(made, expected);
+    joints += static_cast<int>(made.size());
+  });
+  EXPECT_GT(joints, 800);
+}
+
 TEST(CoincidenceOracle, MergesWithTiesAreThoseOfTheSearchNodeByNode) {
   // Ties leave out candidates; the single question walks the joints themselves.
   for (std::uint32_t seed = 1; seed < 30; ++seed) {
@@ -218,15 +308,7 @@ TEST(CoincidenceOracle, MergesWithTiesAreThoseOfTheSearchNodeByNode) {
     auto asked = SearchBy(plain, {1, 0, 0}, 0.15);
     for (auto const& [n, other] : asked.FindAllCoinc(AllOf(model, SelNode)))
       EXPECT_EQ(asked.FindCoinc(n, false), other);
-    Pairs expected;
-    Util::CSet alive = AllOf(model, SelNode);
-    for (int n = model.HighestNode(); n > 0; --n) {
-      int const other = alive.IsItemIncluded(n) ? asked.FindCoinc(n, false) : 0;
-      if (other == 0) continue;
-      expected.emplace_back(std::max(n, other), std::min(n, other));
-      asked.RemoveFromSearchSet(std::max(n, other));
-      alive.RemoveFrom(std::max(n, other));
-    }
+    auto const expected = MergesAskedOneByOne(asked, AllOf(model, SelNode));
     Pairs pairs;
     SearchBy(model, {1, 0, 0}, 0.15).Do(AllOf(model, SelNode), pairs);
     EXPECT_EQ(pairs, expected);
@@ -244,15 +326,7 @@ TEST(CoincidenceOracle, NodesThatMovedBehindTheListingAreFoundAsByThePlainSweep)
     auto asked = tool;
     for (int const n : AllOf(model, SelNode))
       if (random.Percent(40)) model.SetNodeCoor(n, model.NodeCoor(n) + PointIn(random, 0.6));
-    Pairs expected;
-    Util::CSet alive = AllOf(model, SelNode);
-    for (int n = model.HighestNode(); n > 0; --n) {
-      int const other = alive.IsItemIncluded(n) ? asked.FindCoinc(n, false) : 0;
-      if (other == 0) continue;
-      expected.emplace_back(std::max(n, other), std::min(n, other));
-      asked.RemoveFromSearchSet(std::max(n, other));
-      alive.RemoveFrom(std::max(n, other));
-    }
+    auto const expected = MergesAskedOneByOne(asked, AllOf(model, SelNode));
     Pairs pairs;
     tool.Do(AllOf(model, SelNode), pairs);
     EXPECT_EQ(pairs, expected);

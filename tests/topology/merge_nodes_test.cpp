@@ -103,6 +103,17 @@ TEST(ReduceCoinc, AChainWhoseMiddleHasTheHighestNumberLeavesItsEnds) {
   EXPECT_EQ(NodesIn(model), (std::vector{1, 2}));
 }
 
+TEST(ReduceCoinc, AListThatIsNotSortedIsSweptAsItStands) {
+  // The list goes by number: 3 does not meet 1 behind 2, which is too far off, and stays; 1 meets 3
+  // beyond 2, which has merged into it.
+  CZelData model;
+  Testing::NodesOnX(model, {{1, 0.0}, {2, 0.8}, {3, -0.5}});
+  CReduceCoinc tool(model, 1, 0);
+  tool.SetOrderVector({1, 0, 0});
+  tool.SetSearchSet(Testing::AllOf(model, SelNode), CReduceCoinc::kTakeSet);
+  EXPECT_EQ(Testing::DoAll(model, tool), (Testing::Pairs{{2, 1}, {3, 1}}));
+}
+
 TEST(ReduceCoinc, OfEquallyNearNodesTheOneThatTheUpwardSweepMeetsIsTaken) {
   CZelData model;
   NodesOnX(model, {{1, -0.5}, {3, 0}, {2, 0.5}});
