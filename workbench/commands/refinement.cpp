@@ -4,6 +4,7 @@
 #include <array>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <unordered_set>
 
 #include "store/record/element.h"
 #include "store/record/node.h"
@@ -114,6 +115,39 @@ void Replace(CZelData& model, Pieces const& pieces, CommandResult& result) {
   for (auto const& [n, made] : pieces) model.BlankElem(n, 1);
 }
 
+/// Replaces refined elements, as many at a time as no further node meets: one walk over the loads
+/// and references serves them all.
+class Replacements {
+ public:
+  Replacements(CZelData& model, CommandResult& result) : m_model(model), m_result(result) {}
+
+  /// Told before a node is refined around: what it stands on has to be in its place by then.
+  void Expect(int node) {
+    auto const& attached = m_model.Node(node).AttachedEnt(SelElement);
+    if (std::any_of(attached.begin(), attached.end(), [&](int n) { return m_met.contains(n); }))
+      Finish();
+  }
+  void Add(Pieces const& pieces) {
+    for (auto const& [n, made] : pieces) {
+      m_pieces[n] = made;
+      m_met.insert(n);
+      m_met.insert(made.begin(), made.end());
+    }
+  }
+  void Finish() {
+    if (m_pieces.empty()) return;
+    Replace(m_model, m_pieces, m_result);
+    m_pieces.clear();
+    m_met.clear();
+  }
+
+ private:
+  CZelData& m_model;
+  CommandResult& m_result;
+  Pieces m_pieces;                // not replaced yet
+  std::unordered_set<int> m_met;  // those and their pieces
+};
+
 void Refine(CZelData& model, Arguments const& arguments, CommandResult& result) {
   if (arguments.Text("--list").empty()) throw UsageError("--list: give the nodes to refine around");
   double const ratio = arguments.Number("--ratio");
@@ -125,15 +159,18 @@ void Refine(CZelData& model, Arguments const& arguments, CommandResult& result) 
   LoadMarks const marks(model);
   Json rows = Json::array();
   std::set<int> told;
+  Replacements replacements(model, result);
   for (int const node : nodes) {
     Pieces pieces;
+    replacements.Expect(node);
     if (ZelUtil::RefineMeshAtNode(model, node, ratio, tolerance, pieces, sid)) result.did = true;
     ReportLeft(model, node, sid, pieces, told, result);
     WarnOfFolds(model, ratio, pieces, result);
     WarnOfRepeatedNodes(model, pieces, result);
-    Replace(model, pieces, result);
+    replacements.Add(pieces);
     for (auto const& [n, made] : pieces) rows.push_back(Json::array({n, made}));
   }
+  replacements.Finish();
   marks.TakeOff(model);
   result.text = Counted(rows.size(), "element") + " refined\n";
   result.result = std::make_shared<Json>(Json{{"pieces", std::move(rows)}});

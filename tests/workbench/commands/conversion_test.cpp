@@ -253,6 +253,22 @@ TEST_F(ConversionCommand, RefineGoesOnWithThePiecesAtTheNextNode) {
   EXPECT_EQ(check.exit, 0) << check.out;
 }
 
+TEST_F(ConversionCommand, RefineOfSeveralNodesIsThatOfOneAfterTheOther) {
+  // 1 and 6 share no element, 4 and 5 do; 25 is of a brick.
+  for (std::vector<std::string> const& nodes :
+       std::vector<std::vector<std::string>>{{"1", "6", "25"}, {"1", "4", "5", "6"}}) {
+    std::string list;
+    auto text = Plates();
+    for (auto const& node : nodes) {
+      list += node + " ";
+      RunOn({"refine", "--list", node}, 0, text);
+      text = Read("out.json");
+    }
+    RunOn({"refine", "--list", list});
+    EXPECT_EQ(Json::parse(Read("out.json")), Json::parse(text)) << list;
+  }
+}
+
 TEST_F(ConversionCommand, RefineReportsWhatItLeavesAndPiecesThatFold) {
   auto text = Plates();
   text.replace(text.find("\"topology\": [2, 3, 6, 5]"), 24,
