@@ -17,25 +17,25 @@ namespace Tarvex {
 /// A list of plain numbers that loses and gains some.
 class NumberWords {
  public:
-  NumberWords(CZelData const& model, std::vector<int> const& words) {
+  NumberWords(CZelData const& model, SelType kind, std::vector<int> const& words) : m_kind(kind) {
     for (int const number : words) Add(model, number);
   }
 
   void Add(CZelData const& model, int number) {
     m_places[number].push_back(m_words.size());
     m_words.push_back(number);
-    if (model.ElemExist(number)) ++m_elements;
+    if (model.EntExist({m_kind, number}, false)) ++m_existing;
   }
   /// Takes a number out wherever it stands.
   void Remove(CZelData const& model, int number) {
     auto const found = m_places.find(number);
     if (found == m_places.end()) return;
     for (auto const place : found->second) m_words[place] = kGone;
-    if (model.ElemExist(number)) m_elements -= found->second.size();
+    if (model.EntExist({m_kind, number}, false)) m_existing -= found->second.size();
     m_places.erase(found);
   }
-  /// Whether any of the numbers is an element.
-  bool NamesAny() const { return m_elements > 0; }
+  /// Whether any of the numbers is that of an element or member.
+  bool NamesAny() const { return m_existing > 0; }
   std::vector<int> Words() const {
     std::vector<int> words;
     for (int const number : m_words)
@@ -44,11 +44,18 @@ class NumberWords {
   }
 
  private:
-  static constexpr int kGone = 0;
+  static constexpr int kGone = -1;
 
+  SelType m_kind;
   std::vector<int> m_words;
   std::unordered_map<int, std::vector<std::size_t>> m_places;
-  std::size_t m_elements = 0;
+  std::size_t m_existing = 0;
+};
+
+/// Which loads a sheet tells of.
+enum class LoadsOf {
+  Plates,  ///< those on elements, as lists stand when they are asked for, pieces' own ones too
+  Lines,   ///< those that were on elements or members of a kind at the beginning
 };
 
 /// The loads of a table on the parents of a map. Numbers of loads stay until Store, which writes
@@ -56,23 +63,28 @@ class NumberWords {
 template <class Table>
 class LoadSheet {
  public:
-  LoadSheet(CZelData& model, CDataMgr::NumberLists const& pieces) : m_model(model) {
+  LoadSheet(CZelData& model, CDataMgr::NumberLists const& pieces, LoadsOf loads = LoadsOf::Plates,
+            SelType kind = SelElement)
+      : m_model(model), m_kind(kind) {
     if (Table::Highest(model) == 0) return;
     std::vector<int> missing;
     for (auto const& [parent, subs] : pieces) {
-      if (parent < 1 || model.LoadPanelExist(parent)) continue;
+      bool const exists = model.EntExist({kind, parent}, false);
+      bool const named = parent >= 1 && !model.LoadPanelExist(parent);
+      if (!(loads == LoadsOf::Plates ? named : exists)) continue;
       m_rows.emplace(parent, std::vector<int>());
-      if (!model.ElemExist(parent)) missing.push_back(parent);
+      if (!exists) missing.push_back(parent);
     }
     for (int n = 1; n <= Table::Highest(model); ++n) {
       auto const& list = Table::Read(model, n).LoadedEntities();
-      if (list.TypeOf() != SelElement) continue;
-      if (!IsPlainList(list)) {
+      if (list.TypeOf() != kind) continue;
+      if (!list.IsPlain()) {
         NoteIndirect(list, missing);
         continue;
       }
       for (int const number : list.Word()) NoteOn(n, number);
     }
+    m_follows = loads == LoadsOf::Plates;
   }
 
   /// The loads on plain lists that an element is on, in ascending number.
@@ -90,12 +102,12 @@ class LoadSheet {
   template <class Record>
   void AppendOn(int element, Record const& load) {
     Table::AppendOn(m_model, element, load);
-    NoteOn(Table::Highest(m_model), element);
+    if (m_follows) NoteOn(Table::Highest(m_model), element);
   }
   /// Adds an element to those of a load on a plain list.
   void AddTo(int n, int element) {
     ListOf(n).Add(m_model, element);
-    NoteOn(n, element);
+    if (m_follows) NoteOn(n, element);
   }
   /// Takes an element off all loads on plain lists. A load goes with its last element.
   void TakeOff(int parent) {
@@ -154,7 +166,7 @@ class LoadSheet {
     }
     // Numbers without an element are named all the same.
     for (int const parent : missing)
-      if (Util::IsItemIncluded(list, {SelElement, parent}, m_model)) m_onIndirect.insert(parent);
+      if (Util::IsItemIncluded(list, {m_kind, parent}, m_model)) m_onIndirect.insert(parent);
   }
 
   /// Whether an unchanged list names one element and nothing else.
@@ -166,7 +178,7 @@ class LoadSheet {
     auto const found = m_lists.find(n);
     if (found != m_lists.end()) return found->second;
     auto const& words = Table::Read(m_model, n).LoadedEntities().Word();
-    return m_lists.emplace(n, NumberWords(m_model, words)).first->second;
+    return m_lists.emplace(n, NumberWords(m_model, m_kind, words)).first->second;
   }
 
   void CloseGaps() {
@@ -185,6 +197,8 @@ class LoadSheet {
   }
 
   CZelData& m_model;
+  SelType m_kind;
+  bool m_follows = true;                             ///< whether rows follow what is added
   std::unordered_map<int, std::vector<int>> m_rows;  ///< loads on plain lists by parent
   std::unordered_set<int> m_onIndirect;              ///< parents on other lists
   std::map<int, NumberWords> m_lists;                ///< lists that have changed, by load

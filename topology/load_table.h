@@ -38,28 +38,6 @@ struct LoadTable {
     load.SetLoadedEntities(list);
     Write(model, Highest(model) + 1, load);
   }
-  /// Adds an entity to those of a load.
-  static void AddTo(CZelData& model, int n, int entity) {
-    auto load = Read(model, n);
-    Data::CEntList list(load.LoadedEntities());
-    list.AddTo(entity);
-    load.SetLoadedEntities(list);
-    Write(model, n, load);
-  }
-  /// Takes an entity off a load. @return whether the load has gone, as it is on nothing any more.
-  static bool TakeOff(CZelData& model, int n, int entity) {
-    auto load = Read(model, n);
-    Data::CEntList list(load.LoadedEntities());
-    Util::Delete(list, entity, model);
-    bool const goes = Util::NumItem(list, model, -1, false) < 1;
-    if (goes) {
-      Delete(model, n);
-    } else {
-      load.SetLoadedEntities(list);
-      Write(model, n, load);
-    }
-    return goes;
-  }
 };
 
 using BeamLoads = LoadTable<Data::CBeamLoad, &CZelData::BeamLoad, &CZelData::HighestBeamLoad,
@@ -79,13 +57,6 @@ using BodyFaceLoads =
 using BodyThermalLoads =
     LoadTable<Data::CBodyThermalLoad, &CZelData::BodyThermalLoad, &CZelData::HighestBodyThermalLoad,
               &CZelData::SetBodyThermalLoad, &CZelData::DeleteBodyThermalLoad>;
-
-/// Whether a list is plain numbers and nothing else, so that it can be changed number by number.
-inline bool IsPlainList(Data::CEntList const& list) {
-  int count = 0;
-  Util::CSet set;
-  return list.CheckSimpleList(count, set) && count == list.NumWord();
-}
 
 /// Whether the first so many values of a load are finite.
 template <class Load>

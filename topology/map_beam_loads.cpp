@@ -5,7 +5,7 @@
 #include "store/geometry/axis_trans.h"
 #include "store/model/undo_step.h"
 #include "tarvex/data_mgr.h"
-#include "topology/load_table.h"
+#include "topology/load_sheet.h"
 
 namespace Tarvex {
 namespace {
@@ -15,33 +15,6 @@ using LoadType = Data::CBeamLoad::LoadType;
 /// How far a piece may reach over an end of its parent and still count as part of it, model length
 /// units.
 constexpr double kReach = 1e-4;
-
-/// The parents that each load of a table is on.
-template <class Table>
-std::vector<Util::CSet> ParentsByLoad(CZelData const& model, SelType kind,
-                                      CDataMgr::NumberLists const& pieces) {
-  std::vector<Util::CSet> sets(static_cast<std::size_t>(Table::Highest(model)), Util::CSet(kind));
-  for (int n = 1; n <= Table::Highest(model); ++n) {
-    auto const& list = Table::Read(model, n).LoadedEntities();
-    if (list.TypeOf() != kind) continue;
-    auto const& items = Util::Item(list, model, -1, false);
-    auto& set = sets[static_cast<std::size_t>(n) - 1];
-    // Nothing but parents is ever looked for. Whichever is shorter is walked.
-    if (static_cast<std::size_t>(items.NumItem()) < pieces.size()) {
-      for (int const item : items)
-        if (pieces.contains(item)) set.AddTo(item);
-    } else {
-      for (auto const& [parent, subs] : pieces)
-        if (items.IsItemIncluded(parent)) set.AddTo(parent);
-    }
-  }
-  return sets;
-}
-
-bool Holds(std::vector<Util::CSet> const& sets, int n, int parent) {
-  auto const at = static_cast<std::size_t>(n);
-  return at <= sets.size() && sets[at - 1].IsItemIncluded(parent);
-}
 
 /// A position along a line as a length: a negative one is minus a fraction of the line.
 double LengthAt(double position, double length) {
@@ -75,27 +48,25 @@ bool IsFiniteLoad(Data::CBeamLoad const& load) {
   return HasFiniteValues(load, row->values);
 }
 
-template <class Table>
-void TakeParentOff(CZelData& model, int parent, std::vector<Util::CSet>& sets,
-                   auto const& isIndirect) {
-  for (int n = Table::Highest(model); n >= 1; --n) {
-    if (!Holds(sets, n, parent) || isIndirect(Table::Read(model, n).LoadedEntities())) continue;
-    if (Table::TakeOff(model, n, parent)) sets.erase(sets.begin() + (n - 1));
-  }
-}
-
 }  // namespace
+
+struct CDataMgr::LineSheets {
+  LoadSheet<BeamLoads> loads;
+  LoadSheet<BeamDists> dists;
+};
 
 bool CDataMgr::MapBeamLoading(SelType kind, NumberLists const& pieces) const {
   CUndoStep step(m_model, false);
-  auto beamSets = ParentsByLoad<BeamLoads>(m_model, kind, pieces);
-  auto distSets = ParentsByLoad<BeamDists>(m_model, kind, pieces);
+  LineSheets sheets{{m_model, pieces, LoadsOf::Lines, kind},
+                    {m_model, pieces, LoadsOf::Lines, kind}};
   bool all = true;
   for (auto const& [parent, subs] : pieces) {
     for (int const sub : subs)
-      if (!MapBeamLoading(kind, parent, sub, beamSets, distSets)) all = false;
-    UnMapBeamLoading(parent, beamSets, distSets);
+      if (!MapBeamLoading(kind, parent, sub, sheets)) all = false;
+    UnMapBeamLoading(parent, sheets);
   }
+  sheets.loads.Store();
+  sheets.dists.Store();
   step.Accept();
   return all;
 }
@@ -128,6 +99,7 @@ double CDataMgr::ElemSubElemPos(SelType kind, int parent, int sub, double& start
 
 /// What is told of one sub-element to the mapping of each load.
 struct CDataMgr::BeamPiece {
+  LineSheets& sheets;
   SelType kind;
   int sub;
   double length;  ///< of the parent, model length units
@@ -136,9 +108,8 @@ struct CDataMgr::BeamPiece {
   bool finite;
 };
 
-bool CDataMgr::MapBeamLoading(SelType kind, int parent, int sub, Sets const& beamSets,
-                              Sets const& distSets) const {
-  BeamPiece piece{kind, sub, 0, 0, 0, true};
+bool CDataMgr::MapBeamLoading(SelType kind, int parent, int sub, LineSheets& sheets) const {
+  BeamPiece piece{sheets, kind, sub, 0, 0, 0, true};
   for (auto const ref : {SEntRef(kind, parent), SEntRef(kind, sub)})
     for (int const place : {0, 1})
       if (!FinitePosition(m_model, m_model.EntTopo(ref, place))) piece.finite = false;
@@ -150,13 +121,11 @@ bool CDataMgr::MapBeamLoading(SelType kind, int parent, int sub, Sets const& bea
     piece.finite = std::isfinite(piece.length + piece.start + piece.end);
     if (std::abs(piece.end - piece.start) < kZeroLength) return true;
   }
-  bool all = true;
-  int const highestLoad = m_model.HighestBeamLoad();
-  for (int n = 1; n <= highestLoad; ++n)
-    if (Holds(beamSets, n, parent) && !MapBeamLoad(n, piece)) all = false;
-  int const highestDist = m_model.HighestBeamDist();
-  for (int n = 1; n <= highestDist; ++n)
-    if (Holds(distSets, n, parent) && !MapBeamDist(n, piece)) all = false;
+  bool all = !sheets.loads.IsOnIndirect(parent) && !sheets.dists.IsOnIndirect(parent);
+  for (int const n : sheets.loads.On(parent))
+    if (!MapBeamLoad(n, piece)) all = false;
+  for (int const n : sheets.dists.On(parent))
+    if (!MapBeamDist(n, piece)) all = false;
   return all;
 }
 
@@ -164,7 +133,6 @@ bool CDataMgr::MapBeamLoad(int n, BeamPiece const& piece) const {
   auto load = m_model.BeamLoad(n);
   auto const type = load.TypeOf();
   bool const member = piece.kind == SelMember;
-  if (IsIndirectList(load.LoadedEntities())) return false;
   if (member && type != LoadType::Uniform) return false;
   if (!piece.finite || !IsFiniteLoad(load)) return false;
   bool const within = piece.start > -kReach && piece.end < piece.length + kReach;
@@ -181,7 +149,7 @@ bool CDataMgr::MapBeamLoad(int n, BeamPiece const& piece) const {
     }
     case LoadType::Uniform:
       if (within)
-        BeamLoads::AddTo(m_model, n, piece.sub);
+        piece.sheets.loads.AddTo(n, piece.sub);
       else if (member)
         return false;
       else
@@ -216,7 +184,7 @@ void CDataMgr::AppendLinear(Data::CBeamLoad const& load, BeamPiece const& piece)
 
 bool CDataMgr::MapBeamDist(int n, BeamPiece const& piece) const {
   auto load = m_model.BeamDist(n);
-  if (piece.kind == SelMember || IsIndirectList(load.LoadedEntities())) return false;
+  if (piece.kind == SelMember) return false;
   if (!piece.finite || !std::isfinite(load.Pos()) || !std::isfinite(load.Value())) return false;
   double const at = LengthAt(load.Pos(), piece.length);
   if (!TakesPoint(piece.start, piece.end, at)) return true;
@@ -225,10 +193,9 @@ bool CDataMgr::MapBeamDist(int n, BeamPiece const& piece) const {
   return true;
 }
 
-void CDataMgr::UnMapBeamLoading(int parent, Sets& beamSets, Sets& distSets) const {
-  auto const isIndirect = [&](Data::CEntList const& list) { return IsIndirectList(list); };
-  TakeParentOff<BeamLoads>(m_model, parent, beamSets, isIndirect);
-  TakeParentOff<BeamDists>(m_model, parent, distSets, isIndirect);
+void CDataMgr::UnMapBeamLoading(int parent, LineSheets& sheets) const {
+  sheets.loads.TakeOff(parent);
+  sheets.dists.TakeOff(parent);
 }
 
 }  // namespace Tarvex

@@ -88,14 +88,12 @@ class TARVEX_EXPORT CDataMgr {
   bool Map3DLoading(NumberLists const& pieces) const;
 
  private:
-  using Sets = std::vector<Util::CSet>;
   using Numbers = std::vector<int>;
 
-  /// Whether a list is anything but plain numbers, so that it can't be changed number by number.
-  bool IsIndirectList(Data::CEntList const& list) const;
-
-  bool MapBeamLoading(SelType kind, int parent, int sub, Sets const& beamSets,
-                      Sets const& distSets) const;
+  /// Loads and distortions by the parents that they were on at the beginning: what a mapping adds
+  /// is not mapped again, and a load that goes changes no number that is still looked for.
+  struct LineSheets;
+  bool MapBeamLoading(SelType kind, int parent, int sub, LineSheets& sheets) const;
   /// A sub-element along its parent, for the mapping of one load.
   struct BeamPiece;
   bool MapBeamLoad(int n, BeamPiece const& piece) const;
@@ -106,11 +104,8 @@ class TARVEX_EXPORT CDataMgr {
   /// 1 its middle, 2 its fall; 0 for any other
   void MapBeamPatchLoad(Data::CBeamLoad const& load, int sub, double length, double start,
                         double end, int section) const;
-  /// Takes a parent off its loads. The tables close up when a load goes, and the parents behind
-  /// this one go by the sets: that of a load that goes, goes too, so that each set stays beside the
-  /// load whose parents it holds. Else the load of a later parent would be looked for under a
-  /// number that is not its own any more, and stay unmapped.
-  void UnMapBeamLoading(int parent, Sets& beamSets, Sets& distSets) const;
+  /// Takes a parent off its loads; one that is on nothing any more goes.
+  void UnMapBeamLoading(int parent, LineSheets& sheets) const;
   /// Where the ends of a sub-element lie along its parent, model length units. @return how far they
   /// lie off its axis at most.
   double ElemSubElemPos(SelType kind, int parent, int sub, double& start, double& end) const;

@@ -97,6 +97,8 @@ int CEntList::Item(int n) const {
 
 SCaseRef CEntList::Case(int n) const { return CaseOfToken(Item(n)); }
 
+bool CEntList::IsPlain() const { return m_kind != SelCase && IsPlainList(m_text.Tokens()); }
+
 bool CEntList::CheckSimpleList(int& count, Util::CSet& set) const {
   auto const& tokens = m_text.Tokens();
   if (m_kind == SelCase || !NeedsNoModel(tokens, m_kind)) return false;

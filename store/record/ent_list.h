@@ -79,6 +79,8 @@ class TARVEX_STORE_EXPORT CEntList : public NamedEntity {
   /// std::out_of_range when the list changed since or has not so many.
   int Item(int n) const;
   SCaseRef Case(int n) const;
+  /// Whether all words are numbers, so that the list can be changed number by number.
+  bool IsPlain() const;
   /// For a list that needs no model: how many of its words are numbers that stand alone, and what
   /// it selects. So the count is NumWord() for a list of plain numbers, and only then.
   /// @return false, and nothing told, for a list that needs one.

@@ -31,11 +31,11 @@ using Testing::Function;
 using Testing::Member;
 
 TEST(ListsLink, Lists) {
-  EXPECT_TRUE(AreLinked(&CEntList::SetType, &CEntList::SetString, &CEntList::SetTokens,
-                        &CEntList::StringRef, &CEntList::IsAll, &CEntList::IsEmpty,
-                        &CEntList::AddTo, &CEntList::AssignFromSet, &CEntList::Item,
-                        &CEntList::Case, &CEntList::CheckSimpleList, &CEntList::FlagRebuild,
-                        &CEntList::Fault, Member<int(int) const>(&CEntList::Word)));
+  EXPECT_TRUE(AreLinked(
+      &CEntList::SetType, &CEntList::SetString, &CEntList::SetTokens, &CEntList::StringRef,
+      &CEntList::IsAll, &CEntList::IsEmpty, &CEntList::AddTo, &CEntList::AssignFromSet,
+      &CEntList::Item, &CEntList::Case, &CEntList::CheckSimpleList, &CEntList::IsPlain,
+      &CEntList::FlagRebuild, &CEntList::Fault, Member<int(int) const>(&CEntList::Word)));
   CEntList list(L"name", SelElement, L"1 2");
   list.AddTo(5);
   CEntList copy(list);

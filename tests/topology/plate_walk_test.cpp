@@ -3,6 +3,7 @@
 
 #include "store/model/list_expansion.h"
 #include "tests/support/random_model.h"
+#include "tests/topology/load_walk.h"
 #include "tests/topology/plate_support.h"
 #include "topology/load_table.h"
 
@@ -30,7 +31,7 @@ struct Walk {
     auto const& list = Table::Read(model, n).LoadedEntities();
     return Util::IsItemIncluded(list, {SelElement, element}, model, -1, false);
   }
-  bool IsPlain(int n) const { return IsPlainList(Table::Read(model, n).LoadedEntities()); }
+  bool IsPlain(int n) const { return Table::Read(model, n).LoadedEntities().IsPlain(); }
 
   /// Maps one load as if it was the only one, and takes over what it gives to some of the pieces.
   void MapAlone(int n, int parent, std::vector<int> const& subs, std::vector<int> const& wanted) {
@@ -45,7 +46,7 @@ struct Walk {
       for (int const piece : Table::Read(alone, made).LoadedEntities().Word()) {
         if (std::find(wanted.begin(), wanted.end(), piece) == wanted.end()) continue;
         if (Adds(load))
-          Table::AddTo(model, n, piece);
+          AddToLoad<Table>(model, n, piece);
         else
           Table::AppendOn(model, piece, Table::Read(alone, made));
       }
@@ -62,7 +63,7 @@ struct Walk {
   }
   void TakeOff(int parent) {
     for (int n = Table::Highest(model); n >= 1; --n)
-      if (IsOn(n, parent) && IsPlain(n)) Table::TakeOff(model, n, parent);
+      if (IsOn(n, parent) && IsPlain(n)) TakeOffLoad<Table>(model, n, parent);
   }
   /// @param pairs whether each piece has a walk of its own. Plates that are on no list at first are
   /// passed over then.

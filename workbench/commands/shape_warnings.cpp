@@ -21,7 +21,7 @@ void ForEachLoaded(std::vector<Load> const& loads, CZelData const& model, Number
   for (auto const& load : loads) {
     ++n;
     auto const& list = load.LoadedEntities();
-    if (list.TypeOf() != SelElement || !IsPlainList(list)) continue;
+    if (list.TypeOf() != SelElement || !list.IsPlain()) continue;
     for (int const number : Util::MakeSet(list, model, true))
       if (auto const found = pieces.find(number); found != pieces.end())
         visit(n, load, found->first);

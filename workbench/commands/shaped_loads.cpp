@@ -40,7 +40,7 @@ void WriteOut(CZelData const& model, std::vector<Load> const& table, Util::CSet 
   for (auto const& load : loads) {
     ++n;
     auto const& list = load.LoadedEntities();
-    if (!HasShape(load) || IsPlainList(list) || !NamesAny(model, list, elements)) continue;
+    if (!HasShape(load) || list.IsPlain() || !NamesAny(model, list, elements)) continue;
     CEntList plain(list.Name(), SelElement, CString(L""));
     for (int const number : Util::MakeSet(list, model)) plain.AddTo(number);
     auto changed = load;
@@ -61,12 +61,6 @@ void Find(std::vector<Load> const& table, char const* name, CZelData const& mode
 }
 
 }  // namespace
-
-bool IsPlainList(CEntList const& list) {
-  int count = 0;
-  Util::CSet numbers;
-  return list.CheckSimpleList(count, numbers) && count == list.NumWord();
-}
 
 void WriteOutShapedLoads(CZelData& model, Util::CSet const& elements) {
   WriteOut(model, model.FaceLoad(), elements,

@@ -10,9 +10,6 @@
 
 namespace Tarvex::Workbench {
 
-/// Whether a list is plain numbers, so that a load on it can be mapped.
-bool IsPlainList(Data::CEntList const& list);
-
 /// Writes the numbers of the elements in the place of ranges and words in the lists of such loads
 /// that name any of the elements, so that the loads can be mapped.
 void WriteOutShapedLoads(CZelData& model, Util::CSet const& elements);

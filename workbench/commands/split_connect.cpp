@@ -5,6 +5,7 @@
 
 #include "store/record/element.h"
 #include "store/record/member.h"
+#include "tarvex/data_mgr.h"
 #include "tarvex/split_connect.h"
 #include "workbench/commands/errors.h"
 #include "workbench/commands/kept_references.h"
@@ -106,15 +107,14 @@ void ReportGoneElements(CZelData const& before, CZelData const& model, CommandRe
       result);
 }
 
-/// Cuts one entity. @return its row of the result; empty when it could not be cut.
+using CutElements = CDataMgr::NumberLists;
+
+/// Cuts one entity; loads and references stay. @param pieces gains those of an element that was
+/// cut.
+/// @return the row of the result; empty when it could not be cut.
 Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& arguments,
-              CommandResult& result) {
-  bool const references = !arguments.Flag("--no-references");
-  auto const unmappable = references && ref.type == SelElement
-                              ? FindUnmappableLineLoads(model, SelElement, {ref.num})
-                              : std::vector<Undone>();
+              CutElements& pieces, CommandResult& result) {
   CSplit1dEl tool(model);
-  tool.SetReplaceElemRef(references);
   tool.SetCoincidenceTol(arguments.Number("--coincidence"));
   std::vector<int> created;
   bool const isElement = ref.type == SelElement;
@@ -129,8 +129,27 @@ Json SplitOne(CZelData& model, SEntRef ref, double position, Arguments const& ar
     return {};
   }
   if (created.empty()) WarnOfNodeAlone(model, ref, tool.SplitNode(), result);
-  ReportUnmapped(unmappable, tool.IsAllLoadsMapped(), result);
+  if (isElement && !model.ElemExist(ref.num)) pieces[ref.num] = {created.rbegin(), created.rend()};
   return {{"number", ref.num}, {"node", tool.SplitNode()}, {"created", created}};
+}
+
+/// Gives the loads and references of elements that were cut to their pieces, in one walk over them
+/// for all. For so long the elements stand again as they were cut, without offsets.
+void FollowCuts(CZelData const& before, CZelData& model, CutElements const& pieces,
+                CommandResult& result) {
+  if (pieces.empty()) return;
+  std::set<int> cut;
+  for (auto const& [n, made] : pieces) {
+    cut.insert(n);
+    auto element = before.Elem(n);
+    element.SetOffset(Data::COffset(0, 0, 0, 0));
+    model.SetElem(n, element);
+  }
+  auto const unmappable = FindUnmappableLineLoads(model, SelElement, cut);
+  CDataMgr const manager(model);
+  ReportUnmapped(unmappable, manager.MapBeamLoading(SelElement, pieces), result);
+  manager.ReplaceElemRef(pieces, false);
+  for (int const n : cut) model.BlankElem(n, 1);
 }
 
 void Split(CZelData& model, Arguments const& arguments, CommandResult& result) {
@@ -141,16 +160,18 @@ void Split(CZelData& model, Arguments const& arguments, CommandResult& result) {
   bool const references = !arguments.Flag("--no-references");
   bool const all = arguments.Text("--list") == kEntities.preset;
   bool extended = false;
+  CutElements pieces;
   Json rows = Json::array();
   for (int const n : set) {
     if (all && !model.EntIs1D({kind, n})) continue;
-    auto row = SplitOne(model, {kind, n}, position, arguments, result);
+    auto row = SplitOne(model, {kind, n}, position, arguments, pieces, result);
     if (row.empty()) continue;
     result.text += SelTypeLabel(kind).ToUtf8() + " " + std::to_string(n) + ": node " +
                    std::to_string(row.at("node").get<int>()) + "\n";
     extended = extended || (!row.at("created").empty() && model.EntExist({kind, n}));
     rows.push_back(std::move(row));
   }
+  if (references) FollowCuts(before, model, pieces, result);
   result.did = !(model == before);
   result.result = std::make_shared<Json>(Json{{"splits", std::move(rows)}});
   result.tolerances.push_back({"coincidence", arguments.Number("--coincidence"), "m"});

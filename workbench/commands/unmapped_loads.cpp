@@ -36,7 +36,7 @@ void FindIn(std::vector<Load> const& loads, char const* table, CZelData const& m
     ++n;
     auto const& list = load.LoadedEntities();
     if (!IsOnAny(model, list, kind, parents)) continue;
-    if (!IsPlainList(list))
+    if (!list.IsPlain())
       found.push_back({table, n, "its list is more than plain numbers: it is left as it is"});
     else if (kind == SelMember && !IsForMembers(load))
       found.push_back({table, n, "members take uniform loads only: it is taken off the member"});

@@ -114,6 +114,14 @@ TEST(EntList, AddsNumbersAndKeepsAPlainListPlain) {
   EXPECT_EQ(count, list.NumWord());
 }
 
+TEST(EntList, IsPlainWhenAllWordsAreNumbers) {
+  for (auto const* text : {L"", L"7", L"9 8 9"}) EXPECT_TRUE(List(text).IsPlain());
+  for (auto const* text :
+       {L"1 to 3", L"all", L"none", L"1 *", L"1 not 2", L"(1)", L"1 \"a\"", L"G1"})
+    EXPECT_FALSE(List(text).IsPlain()) << CString(text).ToUtf8();
+  EXPECT_FALSE(CEntList(SelCase, L"").IsPlain());
+}
+
 TEST(EntList, AddsKeywords) {
   CEntList list(SelNode, L"");
   list.AddTo(-4);

@@ -75,10 +75,31 @@ TEST_F(SplitConnectCommand, SplitReportsWhatItLeaves) {
   auto const report = RunOn({"split", "--at", "0.5"}, 1, text);
   auto const undone = report.at("data").at("undone");
   ASSERT_EQ(undone.size(), 2);
-  EXPECT_EQ(undone.at(0).at("table"), "BeamLoad");
   EXPECT_EQ(
-      undone.at(1),
+      undone.at(0),
       Json({{"table", "Elem"}, {"number", 8}, {"why", "the place is within a rigid offset"}}));
+  EXPECT_EQ(undone.at(1).at("table"), "BeamLoad");
+}
+
+TEST_F(SplitConnectCommand, SplitOfSeveralElementsIsThatOfOneAfterTheOther) {
+  auto text = Model();
+  // A load and a list that both beams share; loads are mapped without the offset of beam 8.
+  text.replace(text.find(R"("List": [)"), 9, R"("List": [{"n": 2, "kind": 2, "text": "8 7"}, )");
+  text.replace(text.find(R"("BeamLoad": [)"), 13,
+               R"("BeamLoad": [{"loadedEntities": {"kind": 2, "text": "7 8"}, "type": 2,
+ "value": [5, 0]}, {"loadedEntities": {"kind": 2, "text": "8"}, "type": 3, "value": [0, 6]}, )");
+  auto one = text;
+  for (auto const* n : {"7", "8"}) {
+    RunOn({"split", "--list", n, "--at", "4"}, 0, one);
+    one = Read("out.json");
+  }
+  RunOn({"split", "--list", "7 8", "--at", "4"}, 0, text);
+  EXPECT_EQ(Out(), Json::parse(one));
+  EXPECT_EQ(Out().at("List").at(1).at("text"), "11 12 9 10");
+  EXPECT_EQ(Out().at("BeamLoad").at(0).at("loadedEntities").at("text"), "9 10 11 12");
+  // The load rises by 1 a metre; the pieces start 1 behind their nodes: 1 to 4, 4 + 1 to 6.
+  EXPECT_EQ(Out().at("BeamLoad").at(3).at("value"), Json({1, 4}));
+  EXPECT_EQ(Out().at("BeamLoad").at(4).at("value"), Json({5, 6}));
 }
 
 TEST_F(SplitConnectCommand, SplitWarnsOfOffsetsThatAreGoneWhereItDidNotCut) {
