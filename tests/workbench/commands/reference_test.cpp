@@ -1,14 +1,12 @@
 #include "workbench/commands/reference.h"
 
+#include "tests/workbench/page.h"
 #include "tests/workbench/run.h"
 
 namespace Tarvex::ReferenceTest {
 namespace {
 
-std::string ReadSource(std::string const& name) {
-  std::ifstream file(std::string(TARVEX_SOURCE_DIR) + "/" + name);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+using Testing::ReadSource;
 
 TEST(Reference, ThePageInTheTreeIsFresh) {
   EXPECT_EQ(ReadSource("docs/commands.md"), Testing::RunTarvex({"reference"}).out);

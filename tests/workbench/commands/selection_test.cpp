@@ -2,6 +2,7 @@
 
 #include "store/select/compact_text.h"
 #include "tests/support/builders.h"
+#include "tests/workbench/page.h"
 #include "tests/workbench/run.h"
 #include "workbench/commands/errors.h"
 
@@ -113,43 +114,19 @@ TEST_F(SelectCommand, RefusesWhatIsNoList) {
 
 class ListsPage : public Testing::RunTest {
  protected:
-  ListsPage() {
-    std::ifstream page(TARVEX_SOURCE_DIR "/docs/lists.md");
-    for (std::string line; std::getline(page, line);) m_lines.push_back(line);
-  }
-
   /// The model file that the page shows.
-  std::string PageModel() const {
-    auto line = std::find(m_lines.begin(), m_lines.end(), "```json");
-    std::string text;
-    for (++line; *line != "```"; ++line) text += *line + "\n";
-    return Write("page.json", text);
-  }
+  std::string PageModel() const { return Write("page.json", m_page.Json()); }
 
   /// The rows of the table with a heading, by cell.
   std::vector<std::vector<std::string>> Rows(std::string const& heading) const {
-    auto line = std::find(m_lines.begin(), m_lines.end(), heading);
-    std::vector<std::vector<std::string>> rows;
-    for (line += 2; line != m_lines.end() && line->starts_with("|"); ++line) {
-      auto& cells = rows.emplace_back();
-      for (std::size_t at = 1; at < line->size();) {
-        auto const end = line->find('|', at);
-        cells.push_back(Bare(line->substr(at, end - at)));
-        at = end + 1;
-      }
-    }
+    auto rows = m_page.Rows(heading);
+    for (auto& cells : rows)
+      for (auto& cell : cells) cell = Testing::Bare(cell);
     return rows;
   }
 
  private:
-  static std::string Bare(std::string cell) {
-    auto const first = cell.find_first_not_of(" ");
-    if (first == std::string::npos) return {};
-    cell = cell.substr(first, cell.find_last_not_of(' ') - first + 1);
-    return cell.starts_with('`') ? cell.substr(1, cell.size() - 2) : cell;
-  }
-
-  std::vector<std::string> m_lines;
+  Testing::Page m_page{"docs/lists.md"};
 };
 
 TEST_F(ListsPage, SelectsInEachExampleWhatItSays) {
