@@ -167,7 +167,7 @@ TEST_F(SplitConnectCommand, SplitWarnsOfAnExtensionWithoutLength) {
 }
 
 TEST_F(SplitConnectCommand, SplitExtendsMembers) {
-  RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"});
+  RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"}, 1);  // a node alone
   EXPECT_EQ(Out().at("Member").size(), 2);
   auto const data =
       RunOn({"split", "--kind", "member", "--list", "1", "--at=-2", "--extend"}).at("data");
