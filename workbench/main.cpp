@@ -21,5 +21,6 @@ int main(int argc, char** argv) {
   std::signal(SIGTERM, OnInterrupt);
   std::signal(SIGPIPE, SIG_IGN);  // a reader that went away is no fault worth a message
   std::ios::sync_with_stdio(false);
-  return Tarvex::Workbench::RunProgram({argv + 1, argv + argc}, std::cout, std::cerr);
+  return Tarvex::Workbench::RunProgram({argv + 1, argv + argc}, std::cout, std::cerr,
+                                       isatty(STDERR_FILENO) == 1);
 }

@@ -2,8 +2,11 @@
 #include "workbench/cli/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <list>
 
+#include "workbench/cli/colour.h"
 #include "workbench/commands/errors.h"
 
 namespace Tarvex::Workbench {
@@ -41,15 +44,22 @@ void AddOwnOptions(CLI::App& app, Command const& command, Values& values, Test&&
   }
 }
 
+void AddModel(CLI::App& app, CommandKind kind, Invocation& invocation) {
+  if (kind == CommandKind::Alone) return;
+  app.add_option("MODEL", invocation.model, "the model file, - for standard input")
+      ->required()
+      ->type_name("");
+}
+
+/// Refuses a word that is none of the modes of colour.
+void CheckColour(std::string const& word) {
+  constexpr std::array kColour{Option{"--color", kColourWords, ValueKind::Choice, "", ""}};
+  Arguments(kColour, {{"--color", word}});
+}
+
 void AddCommonOptions(CLI::App& app, CommandKind kind, Invocation& invocation) {
-  static std::map<std::string, ColourMode> const kColours{
-      {"auto", ColourMode::Auto}, {"always", ColourMode::Always}, {"never", ColourMode::Never}};
-  if (kind != CommandKind::Alone) {
-    app.add_option("MODEL", invocation.model, "the model file, - for standard input")
-        ->required()
-        ->type_name("");
+  if (kind != CommandKind::Alone)
     app.add_flag("--strict", invocation.strict, "refuse references to missing records");
-  }
   if (kind == CommandKind::Changes || kind == CommandKind::Draws) {
     app.add_option("-o,--output", invocation.output, "the file to write, - for standard output")
         ->type_name("OUT");
@@ -61,11 +71,14 @@ void AddCommonOptions(CLI::App& app, CommandKind kind, Invocation& invocation) {
     app.add_flag("--dry-run", invocation.dryRun, "report only, write nothing");
   }
   app.add_flag("--json", invocation.json, "print the report as JSON");
-  app.add_flag("-q,--quiet", invocation.quiet, "print no report and no warnings");
-  app.add_flag("-v,--verbose", invocation.verbose, "print every number of long lists");
-  app.add_option("--color", invocation.colour, "colour of messages: auto, always or never")
-      ->type_name("WHEN")
-      ->transform(CLI::CheckedTransformer(kColours).description(""));
+  app.add_flag("-q,--quiet", invocation.quiet,
+               "print no warnings, and no report but that of --json");
+  app.add_flag("-v,--verbose", invocation.verbose,
+               "print every number of long lists, old numbers with new ones, codes of warnings");
+  app.add_option_function<std::string>("--color", &CheckColour,
+                                       "colour of messages: auto, always or never; unless given "
+                                       "auto, which is on a terminal without NO_COLOR")
+      ->type_name("WHEN");
 }
 
 /// One line for a fault of the command line.
@@ -77,6 +90,21 @@ std::string Explain(CLI::ParseError const& fault) {
   if (what.ends_with("flag override"))
     return "--" + what.substr(0, what.find(' ')) + " takes no value";
   return what.substr(0, what.find('\n'));
+}
+
+/// Refuses files without a name, and standard input for two of them.
+void CheckInputs(Invocation const& invocation) {
+  auto const& command = *invocation.command;
+  if (command.kind != CommandKind::Alone && invocation.model.empty())
+    throw UsageError("the name of the model file is empty");
+  for (auto const& option : command.options) {
+    if (!IsFile(option.kind)) continue;
+    auto const& file = invocation.arguments.Text(option.name);
+    if (file.empty())
+      throw UsageError("the name of the file " + std::string(option.name) + " is empty");
+    if (file == "-" && invocation.model == "-")
+      throw UsageError(std::string(option.name) + ": the model is on standard input, name a file");
+  }
 }
 
 void CheckDestination(Invocation const& invocation) {
@@ -121,7 +149,7 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
   app.require_subcommand(1);
   app.footer(
       "Exit codes: 0 done, 1 something to look at, 2 bad command line, 3 refused,\n"
-      "4 faulty file, 5 fault of the program.");
+      "4 faulty file, 5 fault of the program, 130 interrupted.");
   auto const word = CommandWord(words);
   Values values;
   CLI::App* chosen = nullptr;
@@ -132,8 +160,9 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
     invocation.command = &command;
     // Files without an option word are read in the order in which they are added here.
     AddOwnOptions(*sub, command, values, [](auto kind) { return kind == ValueKind::FileBefore; });
-    AddCommonOptions(*sub, command.kind, invocation);
+    AddModel(*sub, command.kind, invocation);
     AddOwnOptions(*sub, command, values, [](auto kind) { return kind != ValueKind::FileBefore; });
+    AddCommonOptions(*sub, command.kind, invocation);
   }
   if (!word.empty() && chosen == nullptr) FindCommand(word);
   try {
@@ -143,13 +172,14 @@ Invocation ParseCommandLine(std::vector<std::string> const& words) {
     invocation.print = std::string(call.what()) + "\n";
     return invocation;
   } catch (CLI::CallForHelp const&) {
-    invocation.print = (chosen == nullptr ? app : *chosen).help();
+    invocation.print = chosen == nullptr ? app.help() : chosen->help(app.get_name());
     return invocation;
   } catch (CLI::ParseError const& fault) {
     throw UsageError(word.empty() ? "give a command, see tarvex --help" : Explain(fault));
   }
   invocation.arguments = TakeArguments(*chosen, *invocation.command, values);
   invocation.arguments.SetModelFile(invocation.model);
+  CheckInputs(invocation);
   CheckDestination(invocation);
   return invocation;
 }
@@ -169,6 +199,14 @@ RecipeStep ParseRecipeLine(std::vector<std::string> const& words) {
     throw UsageError(Explain(fault));
   }
   return {&command, TakeArguments(app, command, values)};
+}
+
+std::string NamedCommand(std::vector<std::string> const& words) {
+  auto const word = CommandWord(words);
+  auto const all = Commands();
+  bool const known = std::any_of(all.begin(), all.end(),
+                                 [&](Command const& command) { return command.name == word; });
+  return known ? word : std::string();
 }
 
 bool AsksForJson(std::vector<std::string> const& words) {

@@ -8,9 +8,6 @@
 
 namespace Tarvex::Workbench {
 
-/// When text is coloured.
-enum class ColourMode { Auto, Always, Never };
-
 /// What one command line asks for.
 struct Invocation {
   /// Text to print instead of running anything: help or the version.
@@ -27,7 +24,6 @@ struct Invocation {
   bool json = false;
   bool quiet = false;
   bool verbose = false;
-  ColourMode colour = ColourMode::Auto;
 };
 
 /// One line of a recipe: a command with its own options.
@@ -42,6 +38,9 @@ RecipeStep ParseRecipeLine(std::vector<std::string> const& words);
 
 /// Reads the words behind the program's name. Throws UsageError with one line of text.
 Invocation ParseCommandLine(std::vector<std::string> const& words);
+
+/// The name of the command among the words; empty where they name none that there is.
+std::string NamedCommand(std::vector<std::string> const& words);
 
 /// Whether the words ask for JSON, so that a fault in them can be told as JSON.
 bool AsksForJson(std::vector<std::string> const& words);

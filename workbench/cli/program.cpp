@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "store/model/undo_step.h"
+#include "workbench/cli/colour.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/atomic_file.h"
 #include "workbench/file/model_reader.h"
@@ -58,7 +59,7 @@ void CheckReferences(Invocation const& invocation, CZelData const& model, Comman
 void RunCommand(Invocation const& invocation, CZelData& model, Report& report) {
   try {
     invocation.command->run(model, invocation.arguments, report.result);
-  } catch (UsageError const&) {
+  } catch (CommandError const&) {
     throw;
   } catch (FileError const&) {
     throw;
@@ -90,6 +91,7 @@ void Run(Invocation const& invocation, Report& report) {
     report.changes = FindChanges(before, model);
     if (!report.changes.empty()) {
       report.totals = FindTotalChanges(before, model);
+      WarnOfNotFinite(report.totals, report.result);
       // Each step of a recipe has told its own.
       if (command.name != kRecipeCommand) WarnOfNewFaults(before, model, report.result);
     }
@@ -106,31 +108,38 @@ void Run(Invocation const& invocation, Report& report) {
 /// Acts and turns every way to fail into the report's failure and exit code.
 template <class Action>
 void Reported(Report& report, Action&& action) {
-  auto const fail = [&](ExitCode exit, std::string const& text, FilePlace place = {}) {
+  auto const fail = [&](ExitCode exit, Failure failure) {
     report.exit = exit;
-    report.failure = Failure{text, std::move(place)};
+    report.failure = std::move(failure);
   };
+  std::string const program = "tarvex: ";
   try {
     action();
   } catch (UsageError const& fault) {
-    fail(ExitCode::Usage, fault.what());
+    fail(ExitCode::Usage, {fault.Text(), fault.Place(), program + fault.what()});
   } catch (Refusal const& fault) {
-    fail(ExitCode::Refused, fault.what());
+    fail(ExitCode::Refused, {fault.Text(), fault.Place(), program + fault.what()});
   } catch (FileError const& fault) {
-    fail(ExitCode::File, fault.Text(), fault.Place());
+    bool const hasPlace = !fault.Place().file.empty();
+    fail(ExitCode::File,
+         {fault.Text(), fault.Place(), hasPlace ? fault.what() : program + fault.Text()});
   } catch (std::exception const& fault) {
-    fail(ExitCode::Fault, std::string("a fault of the program: ") + fault.what());
+    auto const text = std::string("a fault of the program: ") + fault.what();
+    fail(ExitCode::Fault, {text, {}, program + text});
   }
 }
 
-void PrintMessages(Invocation const& invocation, Report const& report, std::ostream& err) {
+void PrintMessages(Invocation const& invocation, Report const& report, bool coloured,
+                   std::ostream& err) {
   if (report.failure) {
-    auto const& place = report.failure->place;
-    err << (place.file.empty() ? "tarvex: " + report.failure->text
-                               : std::string(FileError(place, report.failure->text).what()))
-        << "\n";
-  } else if (!invocation.quiet) {
-    for (auto const& warning : report.result.warnings) err << "warning: " << warning.text << "\n";
+    err << InColour(report.failure->line, Colour::Red, coloured) << "\n";
+    return;
+  }
+  if (invocation.quiet) return;
+  for (auto const& warning : report.result.warnings) {
+    err << InColour("warning:", Colour::Yellow, coloured) << " " << warning.text;
+    if (invocation.verbose) err << " [" << warning.code << "]";
+    err << "\n";
   }
 }
 
@@ -150,17 +159,19 @@ Report RunInvocation(Invocation const& invocation) {
   return report;
 }
 
-int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err) {
+int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err,
+               bool errIsTerminal) {
   Invocation invocation;
   Report report;
   Reported(report, [&] { invocation = ParseCommandLine(words); });
+  if (report.failure) report.command = NamedCommand(words);
   if (!report.failure && invocation.command != nullptr && invocation.print.empty())
     report = RunInvocation(invocation);
   if (!invocation.print.empty()) {
     out << invocation.print << std::flush;
     return ExitBehind(out, ExitCode::Done, err);
   }
-  PrintMessages(invocation, report, err);
+  PrintMessages(invocation, report, IsColoured(ColourAskedFor(words), errIsTerminal), err);
   bool const json = invocation.json || (report.failure && AsksForJson(words));
   // A model on standard output is alone there.
   auto& reportStream = invocation.output == kStandardStream ? err : out;

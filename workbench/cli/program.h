@@ -14,7 +14,10 @@ namespace Tarvex::Workbench {
 Report RunInvocation(Invocation const& invocation);
 
 /// Runs the words behind the program's name. Results go to out, messages to err; a model that is
-/// written to standard output goes there whatever out is. @return the exit code.
-int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err);
+/// written to standard output goes there whatever out is.
+/// @param errIsTerminal whether err is a terminal, so that colours go there unless told otherwise
+/// @return the exit code.
+int RunProgram(std::vector<std::string> const& words, std::ostream& out, std::ostream& err,
+               bool errIsTerminal = false);
 
 }  // namespace Tarvex::Workbench

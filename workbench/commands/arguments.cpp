@@ -7,11 +7,13 @@
 namespace Tarvex::Workbench {
 namespace {
 
+/// @return invalid_argument for a text that is no number, result_out_of_range for one that T can't
+/// hold
 template <class T>
-bool Parse(std::string const& text, T& value) {
+std::errc Parse(std::string const& text, T& value) {
   auto const* end = text.data() + text.size();
   auto const [rest, fault] = std::from_chars(text.data(), end, value);
-  return fault == std::errc() && rest == end;
+  return rest == end ? fault : std::errc::invalid_argument;
 }
 
 bool IsChoice(std::string_view choices, std::string_view text) {
@@ -30,10 +32,16 @@ bool IsChoice(std::string_view choices, std::string_view text) {
 template <class T>
 void CheckNumber(Option const& option, std::string const& text, char const* wanted) {
   T value{};
-  if (!Parse(text, value) || !std::isfinite(static_cast<double>(value)))
+  auto const fault = Parse(text, value);
+  if (fault == std::errc::result_out_of_range)
+    throw UsageError(std::string(option.name) + ": '" + text + "' is out of range");
+  if (fault != std::errc() || !std::isfinite(static_cast<double>(value)))
     Refuse(option, text, wanted);
+  auto const bound = [](double limit) { return std::to_string(static_cast<long long>(limit)); };
   if (static_cast<double>(value) < option.lowest)
-    Refuse(option, text, "at least " + std::to_string(static_cast<long long>(option.lowest)));
+    Refuse(option, text, "at least " + bound(option.lowest));
+  if (static_cast<double>(value) > option.highest)
+    Refuse(option, text, "at most " + bound(option.highest));
 }
 
 void Check(Option const& option, std::string const& text) {
@@ -59,7 +67,10 @@ Arguments::Arguments(std::span<Option const> options, std::map<std::string, std:
   for (auto const& option : options) {
     auto const found = given.find(std::string(option.name));
     auto const text = found == given.end() ? std::string(option.preset) : found->second;
-    if (found != given.end()) Check(option, text);
+    if (found != given.end()) {
+      Check(option, text);
+      m_given.emplace(option.name);
+    }
     m_values.emplace(option.name, text);
   }
 }

@@ -147,10 +147,14 @@ void RunCombine(CZelData& model, CLoadCombinationGeneratorEuro& generator,
   run.families = ReadFamilies(model, run.plan);
   result.text = CombineText(model, run);
   result.result = std::make_shared<Json>(CombineJson(model, run));
-  if (result.did)
-    for (auto& warning : CompareWithEn1990(model, run)) result.warnings.push_back(warning);
-  else
+  if (!result.did) {
     result.warnings.push_back({"no-actions", "", 0, "no analysis case stands for an action"});
+    return;
+  }
+  for (auto& warning : CompareWithEn1990(model, run)) {
+    result.warnings.push_back(std::move(warning));
+    result.lookAt = true;
+  }
 }
 
 void Combine(CZelData& model, Arguments const& arguments, CommandResult& result) {

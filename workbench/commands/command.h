@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <nlohmann/json_fwd.hpp>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -35,6 +36,7 @@ struct Option {
   std::string_view preset;  ///< value when it is not given
   std::string_view help;
   double lowest = -std::numeric_limits<double>::infinity();
+  double highest = std::numeric_limits<double>::infinity();
 };
 
 /// The values of a command's options, all valid for their kind.
@@ -49,6 +51,8 @@ class Arguments {
   int Integer(std::string_view name) const;
   double Number(std::string_view name) const;
   bool Flag(std::string_view name) const { return Text(name) == "true"; }
+  /// Whether the option was on the command line, be it with its preset.
+  bool IsGiven(std::string_view name) const { return m_given.contains(name); }
 
   /// The model file as it was named, "-" for standard input; empty in a recipe.
   std::string const& ModelFile() const { return m_modelFile; }
@@ -56,6 +60,7 @@ class Arguments {
 
  private:
   std::map<std::string, std::string, std::less<>> m_values;
+  std::set<std::string, std::less<>> m_given;
   std::string m_modelFile;
 };
 

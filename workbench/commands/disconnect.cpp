@@ -115,7 +115,8 @@ void ReportPanels(CZelData const& model, Util::CSet const& set, CommandResult& r
 void Disconnect(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
   auto const partsAtNodes = KindOf(arguments.Text("--parts"));
-  if (kind == SelElement && partsAtNodes != kind) throw UsageError("--parts goes with --kind node");
+  if (kind != SelNode && arguments.IsGiven("--parts"))
+    throw UsageError("--parts goes with --kind node");
   auto const set = SelectByOptions(model, kind, arguments, result);
   auto const parts = kind == SelNode ? partsAtNodes : kind;
   if (parts == SelElement) ReportPanels(model, set, result);
@@ -139,20 +140,20 @@ void Disconnect(CZelData& model, Arguments const& arguments, CommandResult& resu
 void ReleaseEdges(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const set = SelectByOptions(model, SelMember, arguments, result);
   int const firstNew = model.HighestNode() + 1;
-  std::size_t unflagged = 0;
+  Util::CSet unflagged;
   Json released = Json::array();
   MemberEdges tool(model);
   for (int const n : set) {
-    if (model.Member(n).Is2D() && !model.Member(n).ReleaseEdges()) ++unflagged;
+    if (model.Member(n).Is2D() && !model.Member(n).ReleaseEdges()) unflagged.AddTo(n);
     int const highest = model.HighestNode();
     tool.ReleaseEdges(n);
     if (model.HighestNode() > highest)
       released.push_back({{"member", n}, {"newNodes", From(highest + 1, model.HighestNode())}});
   }
-  if (unflagged > 0)
-    result.warnings.push_back({"not-flagged", "Member", 0,
-                               Counted(unflagged, "2D member") +
-                                   " of the selection not flagged for the release of edges"});
+  if (!unflagged.IsEmpty())
+    result.warnings.push_back(
+        {"not-flagged", "Member", *unflagged.begin(),
+         "2D members not flagged for the release of edges: " + unflagged.String().ToUtf8()});
   WarnOfCopiedProperties(model, firstNew, result);
   result.did = !released.empty();
   result.result = std::make_shared<Json>(Json{{"released", released}});

@@ -2,6 +2,10 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "workbench/file/file_error.h"
 
 namespace Tarvex::Workbench {
 
@@ -16,16 +20,31 @@ enum class ExitCode : int {
   Interrupted = 130,
 };
 
-/// A command line that makes no sense, whatever the model: ends with ExitCode::Usage.
-class UsageError : public std::runtime_error {
+/// A failure that may come from a line of a recipe; what() has its place before the text.
+class CommandError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit CommandError(std::string const& text) : std::runtime_error(text), m_text(text) {}
+  CommandError(FilePlace place, std::string const& text)
+      : std::runtime_error(PlacedText(place, text)), m_place(std::move(place)), m_text(text) {}
+
+  FilePlace const& Place() const { return m_place; }  ///< file empty where there is none
+  std::string const& Text() const { return m_text; }
+
+ private:
+  FilePlace m_place;
+  std::string m_text;
+};
+
+/// A command line that makes no sense, whatever the model: ends with ExitCode::Usage.
+class UsageError : public CommandError {
+ public:
+  using CommandError::CommandError;
 };
 
 /// The tool or the model refuses: ends with ExitCode::Refused.
-class Refusal : public std::runtime_error {
+class Refusal : public CommandError {
  public:
-  using std::runtime_error::runtime_error;
+  using CommandError::CommandError;
 };
 
 }  // namespace Tarvex::Workbench

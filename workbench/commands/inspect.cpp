@@ -24,18 +24,8 @@ Json ToJson(Finding const& finding) {
             {"index", finding.index}};
   if (finding.value) json["value"] = *finding.value;
   if (!finding.target.empty()) json["target"] = finding.target;
+  if (!finding.reason.empty()) json["reason"] = finding.reason;
   return json;
-}
-
-std::string ToText(Finding const& finding) {
-  auto text = finding.code + ": " + finding.table + " " + std::to_string(finding.number) + " " +
-              finding.field;
-  if (finding.index >= 0) text += "/" + std::to_string(finding.index);
-  if (!finding.target.empty())
-    text += " names " + finding.target + " " + std::to_string(finding.value.value_or(0));
-  else if (finding.value)
-    text += ": " + std::to_string(*finding.value);
-  return text + "\n";
 }
 
 void Check(CZelData& model, Arguments const&, CommandResult& result) {
@@ -43,7 +33,7 @@ void Check(CZelData& model, Arguments const&, CommandResult& result) {
   Json json = Json::array();
   for (auto const& finding : findings) {
     json.push_back(ToJson(finding));
-    result.text += ToText(finding);
+    result.text += FindingText(finding) + "\n";
   }
   result.text += Counted(findings.size(), "finding") + "\n";
   result.result = std::make_shared<Json>(Json{{"findings", json}});

@@ -5,6 +5,7 @@
 #include "store/select/numbers.h"
 #include "workbench/commands/errors.h"
 #include "workbench/file/file_error.h"
+#include "workbench/file/json_scan.h"
 #include "workbench/file/read_file.h"
 
 namespace Tarvex::Workbench {
@@ -42,7 +43,7 @@ class MapReader {
     auto const* end = word.data() + word.size();
     auto const [rest, fault] = std::from_chars(word.data(), end, number);
     if (fault != std::errc() || rest != end || number < 1 || number > kHighestNumber)
-      Fail(at, "'" + std::string(word) + "' is no number from 1 to 100000000");
+      Fail(at, Quoted(word) + " is no number from 1 to 100000000");
     return number;
   }
 

@@ -27,8 +27,9 @@ constexpr std::array kAlignEdgesOptions{
     Axis("-1", "number of the axis, 0 for the global one, -1 for each element's own x axis", -1)};
 constexpr std::array kAlignNormalsOptions{kList, Axis("0", kAxisHelp, 0)};
 constexpr std::array kAgreeNormalsOptions{
-    kList, Option{"--angle", "DEG", ValueKind::Number, "15",
-                  "facet angle in degrees: neighbours within it have a vote"}};
+    kList,
+    Option{"--angle", "DEG", ValueKind::Number, "15",
+           "facet angle in degrees, from 0 to 180: neighbours within it have a vote", 0, 180}};
 constexpr std::array kFlipOptions{kList, kKind};
 constexpr std::array kSpinOptions{kList,
                                   Option{"--steps", "N", ValueKind::Integer, "1",

@@ -68,18 +68,18 @@ class Splitter {
   bool m_inWord = false;
 };
 
-/// Calls run and puts the place of a recipe's line before the text of a failure.
+/// Calls run and gives a failure the place of the recipe's line.
 template <class Run>
 void AtLine(std::string const& name, int line, Run&& run) {
-  auto const place = name + ":" + std::to_string(line) + ": ";
+  FilePlace const place{name, line, 0, ""};
   try {
     run();
   } catch (UsageError const& fault) {
-    throw UsageError(place + fault.what());
+    throw UsageError(place, fault.what());
   } catch (FileError const& fault) {
-    throw FileError({name + ":" + std::to_string(line), 0, 0, ""}, fault.what());
+    throw FileError(place, fault.what());
   } catch (std::exception const& fault) {
-    throw Refusal(place + fault.what());
+    throw Refusal(place, fault.what());
   }
 }
 
@@ -100,6 +100,7 @@ void RunStep(CZelData& model, RecipeStep const& step, Report& report) {
   report.changes = FindChanges(before, model);
   if (report.changes.empty()) return;
   report.totals = FindTotalChanges(before, model);
+  WarnOfNotFinite(report.totals, report.result);
   WarnOfNewFaults(before, model, report.result);
 }
 
@@ -132,7 +133,7 @@ std::vector<RecipeLine> SplitRecipe(std::string_view text, std::string const& na
     auto const end = std::min(text.find('\n', at), text.size());
     RecipeLine line{++number, {}};
     if (!Splitter(text.substr(at, end - at)).Split(line.words))
-      throw UsageError(name + ":" + std::to_string(number) + ": a quotation without its end");
+      throw UsageError({name, number, 0, ""}, "a quotation without its end");
     if (!line.words.empty()) lines.push_back(std::move(line));
     at = end + 1;
   }

@@ -66,9 +66,11 @@ changes a model needs exactly one of:
 
 A command that draws a model needs `-o OUT`, by the same rules, and leaves the model as it is.
 
-Every command takes `--json` (the report as one JSON object), `-q` (no report, no warnings), `-v`
-(long lists in full), `--color auto|always|never` and, with a model, `--strict` (a reference to a
-missing record is a fault). Results go to standard output, messages to standard error.
+Every command takes `--json` (the report as one JSON object), `-q` (no warnings, and no report but that
+of `--json`), `-v` (long lists in full, old numbers with new ones, codes of warnings), `--color
+auto|always|never` (of warnings and faults; `auto` is on a terminal, unless `NO_COLOR` is set) and,
+with a model, `--strict` (a reference to a missing record is a fault). Results go to standard output,
+messages to standard error.
 
 | exit code | meaning |
 |---|---|

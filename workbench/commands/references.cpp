@@ -10,6 +10,7 @@
 #include "workbench/commands/selection.h"
 #include "workbench/commands/shape_warnings.h"
 #include "workbench/commands/unmapped_loads.h"
+#include "workbench/file/references.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -63,10 +64,27 @@ std::function<bool(int)> IsOldIn(NumberLists const& numbers) {
   };
 }
 
+/// Refuses old numbers of records that do not exist, but for those that something names all the
+/// same: to put another in their place mends it.
+void RequireKnown(CZelData const& model, SelType kind, NumberLists const& numbers) {
+  std::set<int> unknown;
+  for (auto const& [old, now] : numbers)
+    if (!model.EntExist({kind, old}, true)) unknown.insert(old);
+  if (unknown.empty()) return;
+  std::string_view const table = kind == SelNode ? "Node" : "Elem";
+  ForEachReference(model, [&](ReferenceSite const& site) {
+    if (site.target == table) unknown.erase(site.value);
+  });
+  if (!unknown.empty())
+    throw Refusal(SelTypeLabel(kind).ToUtf8() + " " + std::to_string(*unknown.begin()) +
+                  " does not exist, and nothing names it");
+}
+
 bool IsEntityTable(std::string_view table) { return table == "Elem" || table == "Member"; }
 
 void ReplaceNodes(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const numbers = MapOf(arguments, 0, -1);
+  RequireKnown(model, SelNode, numbers);
   RequireEntities(model, SelNode, numbers, false);
   bool const entities = !arguments.Flag("--no-entities");
   result.did = CDataMgr(model).ReplaceNodeRef(numbers, entities);
@@ -109,6 +127,7 @@ bool MapLoads(CZelData& model, SelType kind, NumberLists const& numbers, Command
 
 void ReplaceElements(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const numbers = MapOf(arguments, 0, -1);
+  RequireKnown(model, SelElement, numbers);
   RequireEntities(model, SelElement, numbers, false);
   bool const mapLoads = arguments.Flag("--map-loads");
   CZelData const before(model);
@@ -122,6 +141,7 @@ void ReplaceElements(CZelData& model, Arguments const& arguments, CommandResult&
 void CopyReferences(CZelData& model, Arguments const& arguments, CommandResult& result) {
   auto const kind = KindOf(arguments.Text("--kind"));
   auto const numbers = MapOf(arguments, 1, 1);
+  RequireKnown(model, kind, numbers);
   RequireEntities(model, kind, numbers, false);
   CDataMgr::NumberMap copies;
   for (auto const& [number, copy] : numbers) copies[number] = copy.front();

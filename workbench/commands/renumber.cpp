@@ -62,6 +62,8 @@ std::vector<T> NumbersOf(std::string const& option, std::string const& text, std
     T number{};
     auto const* const end = part.data() + part.size();
     auto const [rest, fault] = std::from_chars(part.data(), end, number);
+    if (fault == std::errc::result_out_of_range)
+      throw UsageError(option + ": '" + part + "' is out of range");
     if (fault == std::errc() && rest == end) numbers.push_back(number);
   }
   if (numbers.size() != count || SplitByCommas(text).size() != count)
@@ -176,15 +178,6 @@ bool IsGone(Records const& gone, Id module, int n) {
   return found != gone.end() && found->second.contains(n);
 }
 
-Data::CEntList ParsedList(SelType kind, std::string const& text) {
-  Data::CEntList list(kind, L"");
-  Data::ListFault fault{};
-  if (!list.SetString(CString::FromUtf8(text), &fault))
-    throw UsageError("--list: character " + std::to_string(fault.position + 1) + ": " +
-                     fault.reason.ToUtf8());
-  return list;
-}
-
 /// Elements and load panels share their numbers: whether one stands in the table that is named.
 bool IsOfTable(CZelData const& model, std::string_view stem, int n) {
   if (stem == "Elem") return model.ElemExist(n);
@@ -202,20 +195,26 @@ Records RecordsToDelete(CZelData const& model, Arguments const& arguments, Comma
     if (isNew) numbers = NumbersInUse(model, module);
     if (std::binary_search(numbers.begin(), numbers.end(), n)) gone[module].insert(n);
   };
+  std::string what = "case";
   if (auto const& stem = arguments.Text("--table"); !stem.empty()) {
+    if (arguments.IsGiven("--kind")) throw UsageError("give one of --kind and --table");
     auto const module = ModuleOf(stem);
-    auto const list = ParsedList(SelNone, text);
+    auto const list = ListOf(SelNone, text);
+    what = "record of " + stem;
     for (int const n : Util::Item(list, model, model.HighestRecord(module)))
       if (IsOfTable(model, stem, n)) take(module, n);
   } else if (arguments.Text("--kind") == "case") {
-    auto const list = ParsedList(SelCase, text);
+    auto const list = ListOf(SelCase, text);
     int const count = Util::NumItem(list, model);
     for (int i = 0; i < count; ++i) take(CaseModule(list.Case(i).CaseType()), list.Case(i).Case());
   } else {
     auto const kind = KindOf(arguments.Text("--kind"));
     for (int const n : SelectByOptions(model, kind, arguments, result))
       gone[EntModId(kind)].insert(n);
+    return gone;
   }
+  if (gone.empty())
+    result.warnings.push_back({"empty-selection", "", 0, "'" + text + "' selects no " + what});
   return gone;
 }
 

@@ -102,12 +102,15 @@ std::string StemOf(Id module) {
 Id ModuleOf(std::string const& stem) {
   constexpr int kLowest = CModule::Axis;
   constexpr int kHighest = CModule::AnalysisCase;
+  std::string known;
   for (auto const& row : Tables()) {
     bool const load = row.module >= CModule::NodeLoad && row.module <= CModule::GravityLoad;
-    if (row.stem == stem && row.module >= kLowest && row.module <= kHighest && !load)
-      return row.module;
+    if (row.module < kLowest || row.module > kHighest || load) continue;
+    if (row.stem == stem) return row.module;
+    (known += known.empty() ? "" : ", ") += row.stem;
   }
-  throw UsageError("--table: '" + stem + "' is no table whose records have numbers to change");
+  throw UsageError("--table: '" + stem +
+                   "' is no table whose records can be renumbered or deleted; these are: " + known);
 }
 
 std::vector<int> NumbersInUse(CZelData const& model, Id module) {

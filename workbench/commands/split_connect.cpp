@@ -89,13 +89,15 @@ void WarnOfRemains(CZelData const& model, int element, bool wasOffset, int node,
   }
 }
 
-/// Warns of a place that gave a node and nothing else.
+/// Warns of a place that gave a node and nothing else, which is less than was asked for.
 void WarnOfNodeAlone(CZelData const& model, SEntRef ref, int node, CommandResult& result) {
   if (node == model.EntTopo(ref, 0) || node == model.EntTopo(ref, 1)) return;
+  bool const isMember = ref.type == SelMember;
   result.warnings.push_back({"node-alone", LineTable(ref.type), ref.num,
                              SelTypeLabel(ref.type).ToUtf8() + " " + std::to_string(ref.num) +
                                  " was neither cut nor extended: node " + std::to_string(node) +
-                                 " is at the place"});
+                                 " is at the place" + (isMember ? "; members are not cut" : "")});
+  result.lookAt = true;
 }
 
 /// Reports what still names elements that are gone.

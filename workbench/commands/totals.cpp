@@ -1,6 +1,7 @@
 #include "workbench/commands/totals.h"
 
 #include <array>
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "store/record/load_case_title.h"
@@ -35,10 +36,19 @@ void Totals(CZelData& model, Arguments const&, CommandResult& result) {
   for (auto const& [loadCase, total] : totals.byCase) {
     cases.push_back(CaseTotalJson(model, loadCase, total));
     result.text += CaseTotalText(model, loadCase, total);
+    if (!IsFinite(total))
+      WarnOfNotFinite("the total of load case " + std::to_string(loadCase), "LoadCaseTitle",
+                      loadCase, result);
   }
   auto const& centre = mass.total.centre;
-  result.text += "mass " + NumberText(mass.total.mass) + " kg, centre (" + NumberText(centre.x) +
-                 ", " + NumberText(centre.y) + ", " + NumberText(centre.z) + ") m\n";
+  bool const hasMass = std::isfinite(mass.total.mass);
+  bool const hasCentre = IsFinite(centre);
+  result.text += "mass " + MassText(mass.total.mass) + ", centre ";
+  result.text += hasCentre ? "(" + NumberText(centre.x) + ", " + NumberText(centre.y) + ", " +
+                                 NumberText(centre.z) + ") m\n"
+                           : "not finite\n";
+  if (!hasMass || !hasCentre)
+    WarnOfNotFinite(hasMass ? "the centre of the mass" : "the mass", "", 0, result);
   for (auto const& load : totals.uncounted)
     result.undone.push_back({std::string(load.table), load.number,
                              "not all of it is counted: " + std::string(load.why)});
@@ -49,16 +59,15 @@ void Totals(CZelData& model, Arguments const&, CommandResult& result) {
                                    " is not known: a node, property or material is missing"});
   for (auto const& item : result.undone)
     result.text += item.table + " " + std::to_string(item.number) + ": " + item.why + "\n";
+  Json massJson = Json::object();
+  if (hasMass) massJson["value"] = mass.total.mass;
+  if (hasCentre) massJson["centre"] = Json::array({centre.x, centre.y, centre.z});
+  massJson["unknown"] = mass.unknown;
   Json uncounted = Json::array();
   for (auto const& load : totals.uncounted)
     uncounted.push_back({{"table", load.table}, {"number", load.number}, {"why", load.why}});
   result.result =
-      std::make_shared<Json>(Json{{"cases", cases},
-                                  {"mass",
-                                   {{"value", mass.total.mass},
-                                    {"centre", Json::array({centre.x, centre.y, centre.z})},
-                                    {"unknown", mass.unknown}}},
-                                  {"uncounted", uncounted}});
+      std::make_shared<Json>(Json{{"cases", cases}, {"mass", massJson}, {"uncounted", uncounted}});
   result.did = true;
 }
 

@@ -1,19 +1,17 @@
 #include "workbench/file/file_error.h"
 
 namespace Tarvex::Workbench {
-namespace {
 
-std::string Line(FilePlace const& place, std::string const& text) {
+std::string PlacedText(FilePlace const& place, std::string const& text) {
   auto line = place.file;
-  if (place.line > 0) line += ":" + std::to_string(place.line) + ":" + std::to_string(place.column);
+  if (place.line > 0) line += ":" + std::to_string(place.line);
+  if (place.line > 0 && place.column > 0) line += ":" + std::to_string(place.column);
   line += ": ";
   if (!place.pointer.empty()) line += place.pointer + ": ";
   return line + text;
 }
 
-}  // namespace
-
 FileError::FileError(FilePlace place, std::string const& text)
-    : std::runtime_error(Line(place, text)), m_place(std::move(place)), m_text(text) {}
+    : std::runtime_error(PlacedText(place, text)), m_place(std::move(place)), m_text(text) {}
 
 }  // namespace Tarvex::Workbench

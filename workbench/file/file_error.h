@@ -14,8 +14,10 @@ struct FilePlace {
   std::string pointer;  ///< JSON pointer to the value, empty where there is none
 };
 
-/// Ends a command with exit code 4. what() is the one line for the user:
 /// "FILE:LINE:COLUMN: /Elem/3/topology/0: text", with as much of the place as there is.
+std::string PlacedText(FilePlace const& place, std::string const& text);
+
+/// Ends a command with exit code 4. what() is the one line for the user: text with its place.
 class FileError : public std::runtime_error {
  public:
   FileError(FilePlace place, std::string const& text);

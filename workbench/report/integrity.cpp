@@ -9,6 +9,7 @@
 #include "store/model/registry.h"
 #include "store/model/saved_lists.h"
 #include "workbench/file/references.h"
+#include "workbench/report/text.h"
 
 namespace Tarvex::Workbench {
 namespace {
@@ -35,24 +36,33 @@ int AddRepeatedNodes(std::string_view table, int number, Data::TopoVector const&
   return count;
 }
 
+/// @param wanted how many nodes there should be, in words; empty where there are as many
 void CheckTopology(std::string_view table, int number, Data::TopoVector const& nodes,
-                   bool rightCount, Findings& findings) {
+                   std::string const& wanted, Findings& findings) {
   int const count = AddRepeatedNodes(table, number, nodes, findings);
-  if (!rightCount || count != static_cast<int>(nodes.size()))
-    findings.push_back(
-        {"wrong-topology-count", std::string(table), number, "topology", -1, count, ""});
+  auto const places = nodes.size();
+  bool const full = count == static_cast<int>(places);
+  if (wanted.empty() && full) return;
+  auto reason = full ? Counted(places, "node")
+                     : std::to_string(count) + " of " + Counted(places, "place") + " with a node";
+  if (!wanted.empty()) reason += ", " + wanted;
+  findings.push_back(
+      {"wrong-topology-count", std::string(table), number, "topology", -1, count, "", reason});
 }
 
 void CheckTopologies(CZelData const& model, Findings& findings) {
   for (auto const& [n, element] : model.Elem()) {
     auto const& shape = element.Shape();
     bool const right = shape.dimension == 0 || element.NumTopo() == shape.nodes;
-    CheckTopology("Elem", static_cast<int>(n), element.Topology(), right, findings);
+    auto const wanted = right ? std::string()
+                              : "type " + std::to_string(static_cast<int>(element.Type())) +
+                                    " has " + std::to_string(shape.nodes);
+    CheckTopology("Elem", static_cast<int>(n), element.Topology(), wanted, findings);
   }
   constexpr int kLeastCorners = 3;
   for (auto const& [n, panel] : model.LoadPanels())
     CheckTopology("LoadPanel", static_cast<int>(n), panel.Topology(),
-                  panel.NumTopo() >= kLeastCorners, findings);
+                  panel.NumTopo() >= kLeastCorners ? "" : "a panel has 3 at least", findings);
 }
 
 /// Calls visit(path, index) for each number of a value that is not finite.
@@ -102,12 +112,18 @@ void CheckLists(CZelData const& model, Findings& findings) {
     findings.push_back({"list-reaches-itself", "List", n, "text", -1, std::nullopt, ""});
 }
 
+/// "character 5: expected a case".
+template <class Fault>
+std::string PlaceAndReason(Fault const& fault) {
+  return "character " + std::to_string(fault.position + 1) + ": " + fault.reason.ToUtf8();
+}
+
 void CheckDescription(std::string_view table, int number, std::string_view field,
                       Data::CaseText const& description, Findings& findings) {
   Data::CaseFault fault;
   if (!Data::ReadCases(description.Text(), &fault))
     findings.push_back({"description-not-readable", std::string(table), number, std::string(field),
-                        -1, fault.position, ""});
+                        -1, fault.position, "", PlaceAndReason(fault)});
   int index = 0;
   for (int at = description.Text().Find(Data::kDeletedCase); at >= 0;
        at = description.Text().Find(Data::kDeletedCase, at + 1))
@@ -121,7 +137,7 @@ void CheckSections(CZelData const& model, Findings& findings) {
       Data::SectionFault fault;
       if (Data::ReadSection(section.Component(i).Description(), &fault)) continue;
       findings.push_back({"description-not-readable", "Section", static_cast<int>(n),
-                          "components.description", i, fault.position, ""});
+                          "components.description", i, fault.position, "", PlaceAndReason(fault)});
     }
 }
 
@@ -143,7 +159,39 @@ void CheckDescriptions(CZelData const& model, Findings& findings) {
         {"combination-reaches-itself", "CombinationCase", n, "description", -1, std::nullopt, ""});
 }
 
+/// What a code says in words, where that is the same for each finding.
+std::string_view WordsOfCode(std::string_view code) {
+  struct Row {
+    std::string_view code;
+    std::string_view words;
+  };
+  constexpr std::array kRows{
+      Row{"dimension-not-finite", "it is not finite"},
+      Row{"list-reaches-itself", "it leads back to itself, and selects nothing"},
+      Row{"deleted-case", "it names a case that was deleted"},
+      Row{"combination-reaches-itself", "it leads back to itself, and has no factors"}};
+  auto const found =
+      std::find_if(kRows.begin(), kRows.end(), [&](Row const& row) { return row.code == code; });
+  return found == kRows.end() ? std::string_view() : found->words;
+}
+
+std::string FindingWords(Finding const& finding) {
+  auto const value = std::to_string(finding.value.value_or(0));
+  if (!finding.target.empty()) return " names " + finding.target + " " + value;
+  if (finding.code == "repeated-node") return ": node " + value + " a second time";
+  if (!finding.reason.empty()) return ": " + finding.reason;
+  return ": " + std::string(WordsOfCode(finding.code));
+}
+
 }  // namespace
+
+std::string FindingText(Finding const& finding) {
+  auto text = finding.code + ": " + finding.table;
+  if (finding.number != 0) text += " " + std::to_string(finding.number);
+  text += " " + finding.field;
+  if (finding.index >= 0) text += "/" + std::to_string(finding.index);
+  return text + FindingWords(finding);
+}
 
 std::vector<Finding> FindFaults(CZelData const& model) {
   Findings findings;

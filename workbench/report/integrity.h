@@ -18,6 +18,7 @@ struct Finding {
   int index = -1;            ///< place in a list, -1 for a field that is none
   std::optional<int> value;  ///< the number that is at fault
   std::string target;        ///< table that a reference points into, empty otherwise
+  std::string reason = {};   ///< in words, where the code and the numbers do not tell it all
 
   friend bool operator==(Finding const&, Finding const&) = default;
 };
@@ -28,11 +29,15 @@ struct Finding {
 ///   wrong-topology-count  a topology without as many nodes as its shape has, 3 at least in a panel
 ///   dimension-not-finite  a number that is not finite
 ///   list-reaches-itself   a saved list that leads back to itself, and so selects nothing
-///   description-not-readable    a text that is no description of cases; the value is the place of
-///                               the fault in it, from 0
+///   description-not-readable    a text that is no description of cases or of a section; the value
+///   is
+///                               the place of the fault in it, from 0, and the reason counts from 1
 ///   deleted-case                a case that was deleted from a description; the index counts them
 ///   combination-reaches-itself  a combination that leads back to itself, and so has no factors
 /// A reference from list to list by number is among the dangling references.
 std::vector<Finding> FindFaults(CZelData const& model);
+
+/// A finding for readers: "wrong-topology-count: Elem 7 topology: 4 nodes, type 7 has 3".
+std::string FindingText(Finding const& finding);
 
 }  // namespace Tarvex::Workbench

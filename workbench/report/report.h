@@ -18,6 +18,7 @@ namespace Tarvex::Workbench {
 struct Failure {
   std::string text;  ///< without the place
   FilePlace place;   ///< file empty where there is none
+  std::string line;  ///< what a reader is told
 };
 
 /// All that is known about one run of a command.
@@ -41,7 +42,8 @@ nlohmann::ordered_json ChangesJson(std::vector<TableChange> const& changes);
 /// The data of a report: for a command that changes the model what it changed, else its own.
 nlohmann::ordered_json DataJson(Report const& report);
 
-/// What a user reads; `verbose` lists every number, otherwise long lists are cut.
+/// What a user reads; `verbose` lists every number, otherwise long lists are cut, and what number
+/// each record got that moved.
 std::string ReportText(Report const& report, bool verbose);
 
 /// One JSON object with the schema "tarvex-result-1", on success and on failure.

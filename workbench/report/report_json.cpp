@@ -1,3 +1,4 @@
+#include <cmath>
 #include <nlohmann/json.hpp>
 
 #include "workbench/report/report.h"
@@ -47,7 +48,7 @@ Json Error(Failure const& failure) {
   auto const& place = failure.place;
   if (!place.file.empty()) json["file"] = place.file;
   if (place.line > 0) json["line"] = place.line;
-  if (place.line > 0) json["column"] = place.column;
+  if (place.line > 0 && place.column > 0) json["column"] = place.column;
   if (!place.pointer.empty()) json["pointer"] = place.pointer;
   return json;
 }
@@ -79,8 +80,11 @@ Json DataJson(Report const& report) {
             {"totals", TotalChangesJson(report.totals)},
             {"tolerances", Tolerances(result.tolerances)},
             {"result", own}};
-  if (auto const& mass = report.totals.mass)
-    json["mass"] = {{"before", mass->first}, {"after", mass->second}};
+  if (auto const& mass = report.totals.mass) {
+    auto& pair = json["mass"] = Json::object();
+    if (std::isfinite(mass->first)) pair["before"] = mass->first;
+    if (std::isfinite(mass->second)) pair["after"] = mass->second;
+  }
   if (result.steps != nullptr) json["steps"] = *result.steps;
   return json;
 }

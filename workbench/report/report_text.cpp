@@ -34,6 +34,42 @@ std::string UndoneLines(std::vector<Undone> const& undone, bool verbose) {
   return text;
 }
 
+/// Records that moved alike: the old numbers and the new ones both go up by 1, or all of the old
+/// ones went.
+struct MapRun {
+  std::pair<int, int> first;
+  int count = 1;
+
+  bool GoesOnWith(std::pair<int, int> const& next) const {
+    bool const isNew = first.second == 0 ? next.second == 0 : next.second == first.second + count;
+    return isNew && next.first == first.first + count;
+  }
+};
+
+std::string RunText(int first, int count) {
+  auto const text = std::to_string(first);
+  if (count == 1) return text;
+  return text + (count == 2 ? " " : " to ") + std::to_string(first + count - 1);
+}
+
+/// "  Elem      7 to 9 -> 1 to 3".
+std::string MapLines(std::string const& table, std::vector<std::pair<int, int>> const& moves) {
+  std::vector<MapRun> runs;
+  for (auto const& move : moves) {
+    if (!runs.empty() && runs.back().GoesOnWith(move))
+      ++runs.back().count;
+    else
+      runs.push_back({move});
+  }
+  std::string text;
+  for (auto const& run : runs) {
+    auto const [old, number] = run.first;
+    text += "  " + Padded(table + " ", 10) + RunText(old, run.count) + " -> " +
+            (number == 0 ? "gone" : RunText(number, run.count)) + "\n";
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string ChangesText(std::vector<TableChange> const& changes, bool verbose) {
@@ -56,6 +92,8 @@ std::string ReportText(Report const& report, bool verbose) {
   if (report.dryRun) text += " (dry run)";
   text += "\n";
   text += ChangesText(report.changes, verbose);
+  if (verbose)
+    for (auto const& [table, moves] : result.maps) text += MapLines(table, moves);
   for (auto const& message : result.messages) text += "  " + message + "\n";
   text += UndoneLines(result.undone, verbose);
   text += TotalChangesText(report.totals);

@@ -37,6 +37,59 @@ TEST_F(Program, HelpOfACommandNamesItsOptionsAndUnits) {
     EXPECT_NE(result.out.find(word), std::string::npos) << word;
 }
 
+TEST_F(Program, HelpOfACommandBeginsWithItsOwnOptions) {
+  auto const help = RunTarvex({"split", "--help"}).out;
+  EXPECT_NE(help.find("Usage: tarvex split [OPTIONS] MODEL\n"), std::string::npos) << help;
+  EXPECT_LT(help.find("--coincidence"), help.find("--strict"));
+  EXPECT_LT(help.find("--coincidence"), help.find("--dry-run"));
+  EXPECT_NE(RunTarvex({"run", "--help"}).out.find("Usage: tarvex run [OPTIONS] RECIPE MODEL\n"),
+            std::string::npos);
+  EXPECT_NE(RunTarvex({"diff", "--help"}).out.find("Usage: tarvex diff [OPTIONS] MODEL OTHER\n"),
+            std::string::npos);
+  EXPECT_NE(RunTarvex({"--help"}).out.find("130 interrupted"), std::string::npos);
+}
+
+TEST_F(Program, AFileWithoutANameIsTwo) {
+  EXPECT_EQ(RunTarvex({"info", ""}).err, "tarvex: the name of the model file is empty\n");
+  EXPECT_EQ(RunTarvex({"info", ""}).exit, 2);
+  EXPECT_EQ(RunTarvex({"diff", Model(), ""}).err, "tarvex: the name of the file OTHER is empty\n");
+}
+
+TEST_F(Program, StandardInputIsReadOnce) {
+  EXPECT_EQ(RunTarvex({"diff", "-", "-"}).err,
+            "tarvex: OTHER: the model is on standard input, name a file\n");
+  EXPECT_EQ(RunTarvex({"diff", "-", "-"}).exit, 2);
+  EXPECT_EQ(RunTarvex({"run", "-", "-", "--dry-run"}).err,
+            "tarvex: RECIPE: the model is on standard input, name a file\n");
+}
+
+TEST_F(Program, ANumberOutOfRangeIsSaidToBeOne) {
+  auto const fault = [&](std::vector<std::string> words) {
+    words.insert(words.begin() + 1, Model());
+    words.emplace_back("--dry-run");
+    auto const result = RunTarvex(words);
+    EXPECT_EQ(result.exit, 2);
+    return result.err;
+  };
+  EXPECT_EQ(fault({"spin", "--steps", "2147483648"}),
+            "tarvex: --steps: '2147483648' is out of range\n");
+  EXPECT_EQ(fault({"spin", "--steps", "2x"}), "tarvex: --steps: '2x' is not a whole number\n");
+  EXPECT_EQ(fault({"agree-normals", "--angle", "1e309"}),
+            "tarvex: --angle: '1e309' is out of range\n");
+  EXPECT_EQ(fault({"agree-normals", "--angle", "-1"}), "tarvex: --angle: '-1' is not at least 0\n");
+  EXPECT_EQ(fault({"agree-normals", "--angle", "181"}),
+            "tarvex: --angle: '181' is not at most 180\n");
+  EXPECT_EQ(
+      RunTarvex({"agree-normals", Model(), "--angle", "180", "--list", "3", "--dry-run"}).exit, 0);
+}
+
+TEST_F(Program, VerboseWarningsHaveTheirCodes) {
+  std::vector<std::string> words{"flip", Model(), "--list", "PB9", "--dry-run"};
+  EXPECT_EQ(RunTarvex(words).err, "warning: 'PB9' selects no element\n");
+  words.emplace_back("-v");
+  EXPECT_EQ(RunTarvex(words).err, "warning: 'PB9' selects no element [empty-selection]\n");
+}
+
 TEST_F(Program, AnUnknownCommandIsOneLineAndTwo) {
   auto const result = RunTarvex({"frobnicate", "x.json"});
   EXPECT_EQ(result.exit, 2);
@@ -230,7 +283,9 @@ TEST_F(Program, JsonTellsAFaultOfTheCommandLineToo) {
   auto const result = RunTarvex({"info", "--json", "a", "b"});
   EXPECT_EQ(result.exit, 2);
   EXPECT_EQ(result.Json().at("ok"), false);
+  EXPECT_EQ(result.Json().at("command"), "info");
   EXPECT_FALSE(result.Json().at("error").contains("file"));
+  EXPECT_EQ(RunTarvex({"frobnicate", "--json"}).Json().at("command"), "");
 }
 
 TEST_F(Program, QuietPrintsNoReport) {

@@ -134,22 +134,23 @@ TEST_F(Combine, TakesFamiliesByTheirWords) {
   struct Row {
     char const* word;
     char const* name;
+    int exit = 0;
   };
   Json all = Json::array();
   for (auto const& row :
        {Row{"persistent", "ULS Persistent"}, Row{"accidental", "ULS Accidental"},
         Row{"seismic", "ULS Seismic"}, Row{"characteristic", "SLS Characteristic"},
-        Row{"frequent", "SLS Frequent"}, Row{"quasi-permanent", "SLS Quasi-Permament"}}) {
-    auto const data = Data(withTask, {"--families", row.word});
+        Row{"frequent", "SLS Frequent", 1}, Row{"quasi-permanent", "SLS Quasi-Permament", 1}}) {
+    auto const data = Data(withTask, {"--families", row.word}, row.exit);  // 1: persistent-factors
     ASSERT_EQ(data.at("result").at("families").size(), 1u);
     EXPECT_EQ(data.at("result").at("families").at(0).at("name"), row.name);
     all.push_back(row.name);
   }
   Json names = Json::array();
-  auto const every = Data(withTask, {"--families", "all"}).at("result").at("families");
+  auto const every = Data(withTask, {"--families", "all"}, 1).at("result").at("families");
   for (auto const& family : every) names.push_back(family.at("name"));
   EXPECT_EQ(names, all);
-  auto const two = Data(withTask, {"--families", " frequent, persistent "});
+  auto const two = Data(withTask, {"--families", " frequent, persistent "}, 1);
   EXPECT_EQ(two.at("result").at("families").at(0).at("name"), "ULS Persistent");
   EXPECT_EQ(two.at("result").at("families").at(1).at("name"), "SLS Frequent");
 }
@@ -159,9 +160,9 @@ TEST_F(Combine, TakesTheCasesOfTheTasksGiven) {
   std::string const task = R"({"n": 1, "class": "CZssTask"})";
   text.insert(text.find(task) + task.size(), R"(, {"n": 2, "class": "CZssTask"})");
   text.replace(text.find(R"("L2", "task": 1)"), 15, R"("L2", "task": 2)");
-  Data(text, {"--tasks", "2", "--families", "characteristic"});
+  Data(text, {"--tasks", "2", "--families", "characteristic"}, 1);  // single-variable-action
   EXPECT_EQ(Written().front(), "Variable : Wind 1 = A2");
-  Data(text, {"--tasks", "1 to 2", "--families", "characteristic"});
+  Data(text, {"--tasks", "1 to 2", "--families", "characteristic"}, 1);
   EXPECT_EQ(Written().front(), "Permanent : Self weight 1 = A1");
   EXPECT_EQ(Codes(text, {"--tasks", "1 7", "--families", "characteristic"}), Texts{"missing-task"});
   auto const fault = Run(text, {"--tasks", "1 to"}, false);
@@ -197,18 +198,19 @@ TEST_F(Combine, TakesAllTasksUpToTheHighestHoweverManyStagesThereAre) {
     char const* tasks;
     Texts basic;
     Texts codes;
+    int exit = 0;  // 1 with a single variable action
   };
   for (int const stages : {0, 2, 9})
     for (auto const& row :
-         {Row{"all", all, {}}, Row{" all", all, {}}, Row{"1 to *", all, {}}, Row{"*", {all[3]}, {}},
-          Row{"all not 1", withoutFirst, {}}, Row{"all not (3 to 5)", {all[0], all[1]}, {}},
-          Row{"2 to * not 4", withoutFirst, {}},
+         {Row{"all", all, {}}, Row{" all", all, {}}, Row{"1 to *", all, {}},
+          Row{"*", {all[3]}, {}, 1}, Row{"all not 1", withoutFirst, {}},
+          Row{"all not (3 to 5)", {all[0], all[1]}, {}, 1}, Row{"2 to * not 4", withoutFirst, {}},
           Row{"1 to 5 not 1", withoutFirst, {"missing-task"}},  // 4
           Row{"all 8", all, {"missing-task"}}}) {
       SCOPED_TRACE(std::string(row.tasks) + ", stages: " + std::to_string(stages));
       auto const result =
           Run(FourTasks(stages), {"--tasks", row.tasks, "--families", "characteristic"});
-      EXPECT_EQ(result.exit, 0) << result.out;
+      EXPECT_EQ(result.exit, row.exit) << result.out;
       auto written = Written();
       std::erase_if(written,
                     [](auto const& line) { return line.find("= A") == std::string::npos; });
@@ -390,7 +392,7 @@ std::vector<std::string> ManyVariableActions() {
 constexpr int kVariablePermutations = 25600 + 26800 + 26800 + 53600;
 
 TEST_F(Combine, CountsPermutations) {
-  auto const family = Data(Cases(ManyVariableActions()), {"--families", "persistent"})
+  auto const family = Data(Cases(ManyVariableActions()), {"--families", "persistent"}, 1)
                           .at("result")
                           .at("families")
                           .at(0);
@@ -406,15 +408,22 @@ TEST_F(Combine, CountsPermutationsUpToTheHighestNumber) {
                        std::to_string(source));
   // 70 x 70 ways of 2 x 2 factors, with each of the above: 19600 x 132800 = 2.6e9.
   auto const result = Run(Cases(titles), {"--families", "persistent"}, false);
-  EXPECT_EQ(result.exit, 0) << result.err;
+  EXPECT_EQ(result.exit, 1) << result.err;
   EXPECT_NE(result.out.find("more than 2147483647\n"), std::string::npos);
   auto const family =
-      Data(Cases(titles), {"--families", "persistent"}).at("result").at("families").at(0);
+      Data(Cases(titles), {"--families", "persistent"}, 1).at("result").at("families").at(0);
   EXPECT_EQ(family.at("permutations"), 2147483647);
   EXPECT_EQ(family.at("morePermutations"), true);
 }
 
 // Warnings that the tables of factors have none of.
+
+TEST_F(Combine, EndsWithOneWhereItWarnsOfTheStandard) {
+  auto const sound = Cases({kSelfWeight, kOffices, kWind});
+  EXPECT_EQ(Run(sound, {"--families", "persistent"}).exit, 0);
+  EXPECT_EQ(Run(sound, {"--families", "frequent"}).exit, 1);
+  EXPECT_EQ(Run(sound, {"--families", "frequent", "-q"}).exit, 1);
+}
 
 TEST_F(Combine, WarnsWhereVariableActionsAreAllOfOneKind) {
   auto const model = Cases({kSelfWeight, Wind(1), Wind(2)});
@@ -605,7 +614,7 @@ TEST_F(Combine, RunsInARecipe) {
   auto const recipe = Write("r.recipe", "combine --families 'persistent, frequent'\n");
   auto const result = RunTarvex({"run", recipe, Write("in.json", Cases({kSelfWeight, kOffices})),
                                  "-o", Path("out.json"), "--json"});
-  EXPECT_EQ(result.exit, 0) << result.out;
+  EXPECT_EQ(result.exit, 1) << result.out;  // a single variable action, persistent factors
   EXPECT_EQ(Written().size(), 2u + 4 + 4);
 }
 

@@ -86,9 +86,17 @@ TEST_F(DisconnectCommand, ReportsPanelsThatKeepANodeOfOthersOnly) {
 
 TEST_F(DisconnectCommand, RefusesPartsThatNothingIsDoneWith) {
   auto const model = Write("in.json", StarModel());
-  auto const result = RunTarvex({"disconnect", model, "--dry-run", "--parts", "member"});
-  EXPECT_EQ(result.exit, 2);
-  EXPECT_EQ(result.err, "tarvex: --parts goes with --kind node\n");
+  for (auto const& words :
+       std::vector<std::vector<std::string>>{{"--parts", "member"},
+                                             {"--parts", "element"},
+                                             {"--kind", "member", "--parts", "member"},
+                                             {"--kind", "member", "--parts", "element"}}) {
+    std::vector<std::string> all{"disconnect", model, "--dry-run"};
+    all.insert(all.end(), words.begin(), words.end());
+    auto const result = RunTarvex(all);
+    EXPECT_EQ(result.exit, 2);
+    EXPECT_EQ(result.err, "tarvex: --parts goes with --kind node\n");
+  }
 }
 
 TEST_F(DisconnectCommand, DisconnectsAllElementsAtANodeWithJointsAndSprings) {
@@ -147,8 +155,8 @@ TEST_F(DisconnectCommand, ReleasesTheEdgesOfFlaggedMembers) {
   EXPECT_EQ(Topology("Elem", 11), Json({9, 10, 7, 8}));
   EXPECT_EQ(Topology("Elem", 12), Json({5, 6}));
   ASSERT_EQ(Warnings().size(), 1U);
-  EXPECT_EQ(Warnings().at(0).at("text"),
-            "1 2D member of the selection not flagged for the release of edges");
+  EXPECT_EQ(Warnings().at(0).at("text"), "2D members not flagged for the release of edges: 6");
+  EXPECT_EQ(Warnings().at(0).at("number"), 6);
 }
 
 TEST_F(DisconnectCommand, WarnsOfTheMassThatAReleasedEdgeHasTwice) {

@@ -35,8 +35,18 @@ TEST_F(Inspect, CheckNamesTableRecordFieldAndValue) {
      "value": 1}])"));
   EXPECT_EQ(RunTarvex({"check", model, "-v"}).out,
             "dangling-reference: Elem 3 topology/2 names Node 99\n"
-            "repeated-node: Elem 3 topology/3: 1\n"
+            "repeated-node: Elem 3 topology/3: node 1 a second time\n"
             "2 findings\n");
+}
+
+TEST_F(Inspect, CheckSaysWhyATopologyHasTheWrongCount) {
+  auto const model = Changed("a.json", "[1, 4, 5, 2]", "[1, 4, 5]");
+  auto const result = RunTarvex({"check", model, "--json"});
+  EXPECT_EQ(result.Json().at("data").at("findings"), Json::parse(R"([
+    {"code": "wrong-topology-count", "table": "Elem", "number": 3, "field": "topology", "index": -1,
+     "value": 3, "reason": "3 nodes, type 5 has 4"}])"));
+  EXPECT_EQ(RunTarvex({"check", model}).out,
+            "wrong-topology-count: Elem 3 topology: 3 nodes, type 5 has 4\n1 finding\n");
 }
 
 TEST_F(Inspect, DiffOfEqualModelsIsZero) {

@@ -76,6 +76,20 @@ TEST_F(Recipe, TheFirstLineThatFailsEndsItWithItsCodeAndPlace) {
   EXPECT_FALSE(Exists("out.json"));
 }
 
+TEST_F(Recipe, JsonHasTheFileAndLineOfAFailure) {
+  auto const error = [&](std::string const& line) {
+    auto const recipe = Write("r.txt", "flip --list 1\n" + line + "\n");
+    return RunTarvex({"run", recipe, Model(), "--dry-run", "--json"}).Json().at("error");
+  };
+  auto const at = [&](char const* text) {
+    return Json{{"text", text}, {"file", Path("r.txt")}, {"line", 2}};
+  };
+  EXPECT_EQ(error("align-1d --axis 7"), at("axis 7 does not exist"));
+  EXPECT_EQ(error("flip --list five"), at("--list: character 1: an unknown word"));
+  EXPECT_EQ(error("flip 'x"), at("a quotation without its end"));
+  EXPECT_EQ(error("diff no.json"), at("no.json: cannot be read: No such file or directory"));
+}
+
 TEST_F(Recipe, ABadLineIsTwo) {
   for (auto const* line : {"frobnicate", "flip --list 'five'", "spin --steps 0", "flip -o x",
                            "run r.txt", "schema", "flip extra"}) {

@@ -267,6 +267,40 @@ TEST_F(ReferencesCommand, TakesNoOptionForAValue) {
   }
 }
 
+TEST_F(ReferencesCommand, RefusesOldNumbersThatNothingHasOrNames) {
+  auto const text = [](Json const& report) {
+    return report.at("error").at("text").get<std::string>();
+  };
+  EXPECT_EQ(text(RunOn({"replace-nodes"}, "3 6\n99 4\n", 3)),
+            "node 99 does not exist, and nothing names it");
+  EXPECT_EQ(text(RunOn({"replace-elements"}, "99 8\n", 3)),
+            "element 99 does not exist, and nothing names it");
+  // Number 1 is a member, which no element is meant by.
+  EXPECT_EQ(text(RunOn({"replace-elements"}, "1 8\n", 3)),
+            "element 1 does not exist, and nothing names it");
+  EXPECT_EQ(text(RunOn({"copy-references"}, "99 8\n", 3)),
+            "element 99 does not exist, and nothing names it");
+  EXPECT_EQ(text(RunOn({"copy-references", "--kind", "node"}, "99 4\n", 3)),
+            "node 99 does not exist, and nothing names it");
+  EXPECT_FALSE(Exists("out.json"));
+}
+
+TEST_F(ReferencesCommand, ReplacesMissingNumbersThatAreNamed) {
+  auto text = Model();
+  text.replace(text.find(R"("topology": [1, 3])"), 18, R"("topology": [1, 99])");
+  text.replace(text.find(R"("text": "7")"), 11, R"("text": "7 98")");
+  RunOn({"replace-nodes"}, "99 3\n", 0, text);
+  EXPECT_EQ(Out().at("Elem").at(1).at("topology"), Json({1, 3}));
+  RunOn({"replace-elements"}, "98 9\n", 0, text);
+  EXPECT_EQ(Out().at("List").at(0).at("text"), "7 9");
+}
+
+TEST_F(ReferencesCommand, ShowsAWordOfABinaryMapCutAndEscaped) {
+  // 24 characters of the word, the first of them a control character.
+  EXPECT_EQ(RunOn({"replace-nodes"}, "\x1b[31m" + std::string(40, 'x'), 4).at("error").at("text"),
+            R"("\u001b[31m)" + std::string(19, 'x') + R"(..." is no number from 1 to 100000000)");
+}
+
 TEST_F(ReferencesCommand, TellsWhereAMapIsFaulty) {
   struct Case {
     std::string map;
@@ -275,10 +309,10 @@ TEST_F(ReferencesCommand, TellsWhereAMapIsFaulty) {
     std::string text;
   };
   for (auto const& [map, line, column, text] :
-       {Case{"7 8\n8 x9\n", 2, 3, "'x9' is no number from 1 to 100000000"},
-        Case{"7 0\n", 1, 3, "'0' is no number from 1 to 100000000"},
-        Case{"7 -1\n", 1, 3, "'-1' is no number from 1 to 100000000"},
-        Case{"7 100000001\n", 1, 3, "'100000001' is no number from 1 to 100000000"},
+       {Case{"7 8\n8 x9\n", 2, 3, "\"x9\" is no number from 1 to 100000000"},
+        Case{"7 0\n", 1, 3, "\"0\" is no number from 1 to 100000000"},
+        Case{"7 -1\n", 1, 3, "\"-1\" is no number from 1 to 100000000"},
+        Case{"7 100000001\n", 1, 3, "\"100000001\" is no number from 1 to 100000000"},
         Case{"7 8\n\n7 9\n", 3, 1, "number 7 comes a second time"}}) {
     auto const error = RunOn({"replace-elements"}, map, 4).at("error");
     EXPECT_EQ(error.at("text"), text);

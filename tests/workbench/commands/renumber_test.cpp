@@ -140,9 +140,9 @@ TEST_F(RenumberCommand, RefusesAMapThatCannotBeRead) {
   };
   for (auto const& row :
        {Row{"2", "a new number is missing"}, Row{"2 3 4", "more than one new number"},
-        Row{"a b", "'a' is no number from 1 to 100000000"},
-        Row{"2 0", "'0' is no number from 1 to 100000000"},
-        Row{"-2 3", "'-2' is no number from 1 to 100000000"},
+        Row{"a b", "\"a\" is no number from 1 to 100000000"},
+        Row{"2 0", "\"0\" is no number from 1 to 100000000"},
+        Row{"-2 3", "\"-2\" is no number from 1 to 100000000"},
         Row{"2 3\n2 4", "number 2 comes a second time"}}) {
     auto const map = Write("map.txt", row.text);
     EXPECT_EQ(ErrorText({"renumber", "--table", "Node", "--map", map}, 4), row.fault);
@@ -177,14 +177,20 @@ TEST_F(RenumberCommand, WantsOneFormAndAKnownTable) {
   expect({"--table", "Node"}, oneForm);
   expect({"--table", "Node", "--compress", "--shift", "1,2"}, oneForm);
   expect({"--compress"}, "--table: which table?");
-  expect({"--table", "NodeLoad", "--compress"},
-         "--table: 'NodeLoad' is no table whose records have numbers to change");
-  expect({"--table", "Nothing", "--compress"},
-         "--table: 'Nothing' is no table whose records have numbers to change");
+  std::string const known =
+      "' is no table whose records can be renumbered or deleted; these are: Node, Elem, LoadPanel, "
+      "Member, Axis, GridPlane, GridSurface, Polyline, MatSteel, MatConcrete, MatFrp, "
+      "MatAluminium, MatTimber, MatGlass, MatFabric, MatRebar, MatAnal, MatCurve, MatMatrix, "
+      "Section, SpringProp, MassProp, Prop2D, Prop3D, LinkProp, DamperProp, CableProp, SpacerProp, "
+      "ForceDensity1D, SoapStress1D, ForceDensity2D, SoapStress2D, RC2DProp, LoadCaseTitle, "
+      "AnalStage, AnalysisTask, AnalysisCase, CombinationCase, DesignTask";
+  expect({"--table", "NodeLoad", "--compress"}, "--table: 'NodeLoad" + known);
+  expect({"--table", "Nothing", "--compress"}, "--table: 'Nothing" + known);
   expect({"--table", "Node,Elem", "--shift", "1,2"},
          "--table: several tables go with --compress alone");
   expect({"--table", "Node", "--shift", "1"}, "--shift: '1' is not 2 numbers, split by commas");
   expect({"--table", "Node", "--shift", "1,x"}, "--shift: '1,x' is not 2 numbers, split by commas");
+  expect({"--table", "Node", "--shift", "1,99999999999"}, "--shift: '99999999999' is out of range");
   expect({"--table", "Axis", "--direction", "1,0,0"},
          "--direction: nodes, elements and members alone have a place");
   for (std::string const text : {"0,0,0", "nan,0,0", "0,inf,0"})
@@ -413,6 +419,30 @@ TEST_F(TidyCommand, FitsTheTypesOf2dProperties) {
 TEST_F(TidyCommand, WantsSomethingToDo) {
   EXPECT_EQ(ErrorText({"tidy"}, 2), "give --blank, --compact or --fit-2d-types");
   EXPECT_EQ(ErrorText({"tidy", "--compact", "--sections"}, 2), "--sections goes with --blank");
+}
+
+TEST_F(RenumberCommand, WarnsOfADeletionThatSelectsNothing) {
+  struct Row {
+    std::vector<std::string> words;
+    char const* text;
+  };
+  for (auto const& row :
+       {Row{{"delete", "--table", "Section", "--list", "PB1"},
+            "'PB1' selects no record of Section"},
+        Row{{"delete", "--table", "Node", "--list", "777"}, "'777' selects no record of Node"},
+        Row{{"delete", "--kind", "case", "--list", "L99"}, "'L99' selects no case"}}) {
+    auto const json = RunOn(row.words, 0).Json();
+    ASSERT_EQ(json.at("warnings").size(), 1U) << row.text;
+    EXPECT_EQ(json.at("warnings").at(0).at("code"), "empty-selection");
+    EXPECT_EQ(json.at("warnings").at(0).at("text"), row.text);
+    EXPECT_EQ(json.at("data").at("changes"), Json::object());
+  }
+}
+
+TEST_F(RenumberCommand, RefusesADeletionByKindAndByTable) {
+  for (auto const* kind : {"node", "element"})  // element is what it is unless given
+    EXPECT_EQ(ErrorText({"delete", "--kind", kind, "--table", "Section", "--list", "1"}, 2),
+              "give one of --kind and --table");
 }
 
 }  // namespace

@@ -128,14 +128,16 @@ TEST_F(SplitConnectCommand, SplitReportsRigidEndsAtTheCutAndTheForceTheyTake) {
 }
 
 TEST_F(SplitConnectCommand, SplitSaysThatAPlaceOutsideOrWithinAMemberGaveANodeAlone) {
-  auto const report = RunOn({"split", "--list", "7", "--at", "12"});
+  auto const report = RunOn({"split", "--list", "7", "--at", "12"}, 1);
   ASSERT_EQ(report.at("warnings").size(), 1);
   EXPECT_EQ(report.at("warnings").at(0).at("code"), "node-alone");
   EXPECT_EQ(report.at("warnings").at(0).at("text"),
             "element 7 was neither cut nor extended: node 5 is at the place");
-  auto const member = RunOn({"split", "--kind", "member", "--list", "1", "--at", "4"});
+  auto const member = RunOn({"split", "--kind", "member", "--list", "1", "--at", "4"}, 1);
   ASSERT_EQ(member.at("warnings").size(), 1);
   EXPECT_EQ(member.at("warnings").at(0).at("table"), "Member");
+  EXPECT_EQ(member.at("warnings").at(0).at("text"),
+            "member 1 was neither cut nor extended: node 5 is at the place; members are not cut");
   EXPECT_EQ(RunOn({"split", "--list", "7", "--at", "10"}).at("warnings").size(), 0);
 }
 
@@ -186,7 +188,7 @@ TEST_F(SplitConnectCommand, SplitWarnsOfAnExtensionWithoutLength) {
 }
 
 TEST_F(SplitConnectCommand, SplitExtendsMembers) {
-  RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"});
+  RunOn({"split", "--kind", "member", "--list", "1", "--at", "12"}, 1);  // a node alone
   EXPECT_EQ(Out().at("Member").size(), 2);
   auto const data =
       RunOn({"split", "--kind", "member", "--list", "1", "--at=-2", "--extend"}).at("data");

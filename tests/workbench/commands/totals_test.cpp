@@ -54,6 +54,28 @@ TEST_F(Totals, GivesTheSameAsJson) {
   EXPECT_EQ(data.at("uncounted"), Json::array());
 }
 
+TEST_F(Totals, SaysWhatIsNotFinite) {
+  // 1e308 N/m2 on 4 m2, and 1e308 m x 2500 kg/m3.
+  auto text = Plate();
+  text.replace(text.find("-3000"), 5, "-1e308");
+  text.replace(text.find("\"thickness\": 0.1"), 16, "\"thickness\": 1e308");
+  auto const model = Write("a.json", text);
+  auto const result = RunTarvex({"totals", model});
+  EXPECT_EQ(result.exit, 1);
+  EXPECT_NE(result.out.find("load case 2 \"Offices\": force not finite, moment not finite\n"),
+            std::string::npos)
+      << result.out;
+  EXPECT_NE(result.out.find("mass not finite, centre "), std::string::npos) << result.out;
+  EXPECT_NE(result.err.find("warning: the total of load case 2 is not finite"), std::string::npos);
+  EXPECT_NE(result.err.find("warning: the mass is not finite"), std::string::npos);
+  auto const json = RunTarvex({"totals", model, "--json"}).Json();
+  EXPECT_EQ(json.at("exit"), 1);
+  EXPECT_EQ(json.at("data").at("cases").at(1),
+            Json::parse(R"({"loadCase": 2, "name": "Offices"})"));
+  EXPECT_FALSE(json.at("data").at("mass").contains("value"));
+  EXPECT_EQ(json.dump().find("null"), std::string::npos) << json.dump();
+}
+
 TEST_F(Totals, TellsWhatIsNotCounted) {
   auto const result = RunTarvex({"totals", Changed("\"density\": 2500", "\"n\": 2"), "--json"});
   EXPECT_EQ(result.exit, 4);  // a key twice

@@ -184,8 +184,10 @@ TEST(FindFaults, FindsDescriptionsThatCannotBeReadAndDeletedCases) {
             (std::vector<Finding>{
                 {"deleted-case", "CombinationCase", 8, "description", 0, std::nullopt, ""},
                 {"deleted-case", "CombinationCase", 8, "description", 1, std::nullopt, ""},
-                {"description-not-readable", "AnalysisTask", 7, "pDelta", -1, 5, ""},
-                {"description-not-readable", "AnalysisCase", 7, "description", -1, 3, ""}}));
+                {"description-not-readable", "AnalysisTask", 7, "pDelta", -1, 5, "",
+                 "character 6: expected a case"},
+                {"description-not-readable", "AnalysisCase", 7, "description", -1, 3, "",
+                 "character 4: expected an operator"}}));
 }
 
 TEST(FindFaults, FindsCombinationsThatReachThemselves) {

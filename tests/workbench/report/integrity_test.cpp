@@ -15,6 +15,7 @@ namespace {
 
 using Workbench::FindFaults;
 using Workbench::Finding;
+using Workbench::FindingText;
 
 /// Four elements of unit squares with nothing wrong.
 CZelData Sound() {
@@ -132,7 +133,9 @@ TEST(FindFaults, FindsATopologyOfAnotherLengthThanTheShape) {
   Change(model, [](Data::CElement& e) { e.SetTopo(std::vector{1, 2, 5}); });
   auto const found = FindFaults(model);
   ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 2, "topology", -1, 3, ""}));
+  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 2, "topology", -1, 3, "",
+                               "3 nodes, type 5 has 4"}));
+  EXPECT_EQ(FindingText(found[0]), "wrong-topology-count: Elem 2 topology: 3 nodes, type 5 has 4");
 }
 
 TEST(FindFaults, CountsAPositionWithoutANodeAsMissing) {
@@ -140,7 +143,17 @@ TEST(FindFaults, CountsAPositionWithoutANodeAsMissing) {
   model.CreateElem(8, ElementType::Tri3, 1, 0);
   auto const found = FindFaults(model);
   ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 8, "topology", -1, 0, ""}));
+  EXPECT_EQ(found[0], (Finding{"wrong-topology-count", "Elem", 8, "topology", -1, 0, "",
+                               "0 of 3 places with a node"}));
+}
+
+TEST(FindFaults, TellsPlacesWithoutANodeAndTheCountOfTheTypeAtOnce) {
+  auto model = Sound();
+  Change(model, [](Data::CElement& e) { e.SetTopo(std::vector{1, 0}); });
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].value, 1);
+  EXPECT_EQ(found[0].reason, "1 of 2 places with a node, type 5 has 4");
 }
 
 TEST(FindFaults, AsksThreeNodesOfAPanelAndAnyNumberOfAnElementWithoutShape) {
@@ -155,6 +168,29 @@ TEST(FindFaults, AsksThreeNodesOfAPanelAndAnyNumberOfAnElementWithoutShape) {
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(found[0].table, "LoadPanel");
   EXPECT_EQ(found[0].code, "wrong-topology-count");
+  EXPECT_EQ(found[0].reason, "2 nodes, a panel has 3 at least");
+}
+
+TEST(FindingText, SaysInWordsWhatEachCodeMeans) {
+  struct Row {
+    Finding finding;
+    char const* text;
+  };
+  for (auto const& row :
+       {Row{{"dangling-reference", "Elem", 3, "topology", 2, 99, "Node"},
+            "dangling-reference: Elem 3 topology/2 names Node 99"},
+        Row{{"repeated-node", "Elem", 3, "topology", 3, 1, ""},
+            "repeated-node: Elem 3 topology/3: node 1 a second time"},
+        Row{{"dimension-not-finite", "Spec", 0, "zElevation", -1, {}, ""},
+            "dimension-not-finite: Spec zElevation: it is not finite"},
+        Row{{"list-reaches-itself", "List", 2, "text", -1, {}, ""},
+            "list-reaches-itself: List 2 text: it leads back to itself, and selects nothing"},
+        Row{{"deleted-case", "CombinationCase", 8, "description", 1, {}, ""},
+            "deleted-case: CombinationCase 8 description/1: it names a case that was deleted"},
+        Row{{"combination-reaches-itself", "CombinationCase", 2, "description", -1, {}, ""},
+            "combination-reaches-itself: CombinationCase 2 description: it leads back to itself, "
+            "and has no factors"}})
+    EXPECT_EQ(FindingText(row.finding), row.text);
 }
 
 TEST(FindFaults, FindsNumbersThatAreNotFiniteWhereverTheyStand) {

@@ -255,6 +255,7 @@ TEST(PropertyIntegrity, TellsADescriptionOfASectionThatCannotBeRead) {
   EXPECT_EQ(findings[0].field, "components.description");
   EXPECT_EQ(findings[0].index, 1);
   EXPECT_EQ(findings[0].value, 11);
+  EXPECT_EQ(findings[0].reason, "character 12: fewer dimensions than the shape has");
 }
 
 }  // namespace

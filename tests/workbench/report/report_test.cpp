@@ -62,6 +62,24 @@ TEST(ReportText, CutsALongListUnlessVerbose) {
   EXPECT_NE(ReportText(SomeReport(), true).find(" 97 99\n"), std::string::npos);
 }
 
+TEST(ReportText, ShowsOldNumbersWithNewOnesInRunsWhereVerbose) {
+  auto report = SomeReport();
+  report.changes.clear();
+  report.result.maps = {{"Elem", {{7, 1}, {8, 2}, {9, 3}, {10, 0}, {11, 0}, {12, 8}, {14, 9}}},
+                        {"Node", {{4, 6}, {5, 5}}}};
+  EXPECT_EQ(ReportText(report, false).find("->"), std::string::npos);
+  EXPECT_EQ(ReportText(report, true)
+                .find("flip: nothing changed (dry run)\n"
+                      "  Elem      7 to 9 -> 1 to 3\n"
+                      "  Elem      10 11 -> gone\n"
+                      "  Elem      12 -> 8\n"
+                      "  Elem      14 -> 9\n"
+                      "  Node      4 -> 6\n"
+                      "  Node      5 -> 5\n"),
+            0u)
+      << ReportText(report, true);
+}
+
 TEST(ReportText, GathersWhatWasLeftUndoneByReason) {
   auto const text = ReportText(SomeReport(), false);
   EXPECT_NE(text.find("  left undone: Elem 4 6: why a\n"), std::string::npos) << text;

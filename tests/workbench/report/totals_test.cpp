@@ -70,6 +70,34 @@ TEST(TotalChanges, TellTheMassWhereItDiffers) {
   EXPECT_EQ(TotalChangesText(changes), "  mass before: 5 kg, after: 10 kg\n");
 }
 
+TEST(TotalChanges, WarnOfWhatIsNotFiniteAndLeaveItOutOfJson) {
+  auto const before = Loaded();
+  auto after = before;
+  // 1e308 over two nodes is more than a number holds; so is a plate of 1e308 x 50.
+  after.SetNodeLoad(
+      1, Data::CNodeLoad({SelNode, L"1 2"}, 3, 0, Direction::Z, 1e308, CModule::NodeLoad));
+  auto plate = after.Prop2D(1);
+  plate.SetThickness(1e308);
+  after.SetProp2D(1, plate);
+  auto const changes = FindTotalChanges(before, after);
+  ASSERT_EQ(changes.cases.size(), 1U);
+  EXPECT_EQ(TotalChangesJson(changes).at(0).at("after").count("force"), 0U);
+  EXPECT_EQ(TotalChangesJson(changes).at(0).at("before").count("force"), 1U);
+  auto const text = TotalChangesText(changes);
+  EXPECT_NE(text.find("load case 3 after:  force not finite, moment "), std::string::npos) << text;
+  EXPECT_NE(text.find("  mass before: 5 kg, after: not finite\n"), std::string::npos) << text;
+  CommandResult result;
+  WarnOfNotFinite(changes, result);
+  ASSERT_EQ(result.warnings.size(), 2U);
+  EXPECT_EQ(result.warnings[0].code, "total-not-finite");
+  EXPECT_EQ(result.warnings[0].number, 3);
+  EXPECT_EQ(result.warnings[0].text,
+            "the total of load case 3 is not finite: a place or a value is too large to sum");
+  EXPECT_EQ(result.warnings[1].text,
+            "the mass is not finite: a place or a value is too large to sum");
+  EXPECT_TRUE(result.lookAt);
+}
+
 TEST(TotalChanges, PassOverRoundingOfSums) {
   auto const before = Loaded();
   auto after = before;
