@@ -345,6 +345,7 @@ TEST_F(ReportsPage, HasTheCodesThatCheckGivesAModelWithAllFaults) {
 "Elem": [{"n": 1, "type": 2, "topology": [1, 9]}, {"n": 2, "type": 2, "topology": [1, 1]},
 {"n": 3, "type": 5, "topology": [1, 2]}],
 "List": [{"n": 1, "kind": 2, "text": "#1"}],
+"Joint": [{"direction": ["X"], "primaryNode": 1, "constrainedNode": 1}],
 "CombinationCase": [{"n": 1, "description": "C1"}, {"n": 2, "description": "none of these"},
 {"n": 3, "description": "A<deleted case>"}]})");
   auto const report = RunTarvex({"check", model, "--json"}).Json();

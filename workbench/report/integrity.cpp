@@ -6,8 +6,12 @@
 #include <ranges>
 
 #include "store/model/case_resolution.h"
+#include "store/model/list_expansion.h"
 #include "store/model/registry.h"
 #include "store/model/saved_lists.h"
+#include "store/record/constraint_eqn.h"
+#include "store/record/joint.h"
+#include "store/record/rigid.h"
 #include "workbench/file/references.h"
 #include "workbench/report/text.h"
 
@@ -107,6 +111,31 @@ void CheckAllNumbers(CZelData const& model, Findings& findings) {
   });
 }
 
+/// Joints, equations and rigid constraints that hold a node by nothing but itself.
+void CheckConstraints(CZelData const& model, Findings& findings) {
+  auto const add = [&](char const* table, int n, char const* field, int index, int node) {
+    findings.push_back({"self-constraint", table, n, field, index, node, ""});
+  };
+  for (int n = 1; n <= model.HighestJoint(); ++n) {
+    auto const& joint = model.Joint(n);
+    if (int const node = joint.PrimaryNode(); node != 0 && node == joint.ConstrainedNode())
+      add("Joint", n, "constrainedNode", -1, node);
+  }
+  for (int n = 1; n <= model.HighestConstraintEqn(); ++n) {
+    auto const& equation = model.ConstraintEqn(n);
+    int const node = equation.ConstrainedNode();
+    for (int i = 0; i < equation.NumTerm(); ++i)
+      if (node != 0 && node == equation.PrimaryNode(i) && equation.Dir() == equation.Dir(i))
+        add("ConstraintEqn", n, "terms", i, node);
+  }
+  for (int n = 1; n <= model.HighestRigid(); ++n) {
+    int const node = model.Rigid(n).PrimaryNode();
+    auto const held = Util::MakeSet(model.Rigid(n).ConstrainedNodes(), model);
+    if (held.NumItem() == 1 && held.IsItemIncluded(node))
+      add("Rigid", n, "constrainedNodes", -1, node);
+  }
+}
+
 void CheckLists(CZelData const& model, Findings& findings) {
   for (int const n : ListsThatReachThemselves(model))
     findings.push_back({"list-reaches-itself", "List", n, "text", -1, std::nullopt, ""});
@@ -179,6 +208,7 @@ std::string FindingWords(Finding const& finding) {
   auto const value = std::to_string(finding.value.value_or(0));
   if (!finding.target.empty()) return " names " + finding.target + " " + value;
   if (finding.code == "repeated-node") return ": node " + value + " a second time";
+  if (finding.code == "self-constraint") return ": node " + value + " is held by itself";
   if (!finding.reason.empty()) return ": " + finding.reason;
   return ": " + std::string(WordsOfCode(finding.code));
 }
@@ -196,6 +226,7 @@ std::string FindingText(Finding const& finding) {
 std::vector<Finding> FindFaults(CZelData const& model) {
   Findings findings;
   AddDanglingReferences(model, findings);
+  CheckConstraints(model, findings);
   CheckLists(model, findings);
   CheckDescriptions(model, findings);
   CheckSections(model, findings);

@@ -29,9 +29,10 @@ struct Finding {
 ///   wrong-topology-count  a topology without as many nodes as its shape has, 3 at least in a panel
 ///   dimension-not-finite  a number that is not finite
 ///   list-reaches-itself   a saved list that leads back to itself, and so selects nothing
+///   self-constraint       a joint or equation of a node with itself, a rigid constraint that holds
+///                         its primary node alone
 ///   description-not-readable    a text that is no description of cases or of a section; the value
-///   is
-///                               the place of the fault in it, from 0, and the reason counts from 1
+///                               is the place of the fault in it, from 0, the reason counts from 1
 ///   deleted-case                a case that was deleted from a description; the index counts them
 ///   combination-reaches-itself  a combination that leads back to itself, and so has no factors
 /// A reference from list to list by number is among the dangling references.

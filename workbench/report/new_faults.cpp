@@ -47,6 +47,7 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
     auto const& field = std::get<2>(group);
     auto const found = known.find(group);
     auto fresh = NewOnes(found == known.end() ? FaultyRecords() : found->second, numbers);
+    if (!fresh.empty()) result.lookAt = true;
     std::erase_if(fresh, [&](int n) { return told.contains({table, n}); });
     for (std::size_t i = 0; i < fresh.size() && i < kMost; ++i) {
       auto text = table;
@@ -55,7 +56,6 @@ void WarnOfNewFaults(CZelData const& before, CZelData const& after, CommandResul
       if (i + 1 == kMost && fresh.size() > kMost)
         text += ", and " + std::to_string(fresh.size() - kMost) + " more";
       result.warnings.push_back({code, table, fresh[i], text + ", which was not before"});
-      result.lookAt = true;
     }
   }
 }

@@ -222,6 +222,21 @@ TEST_F(CoincidenceCommand, AStageThatDoesNotExistIsRefusedWithThree) {
   }
 }
 
+TEST_F(CoincidenceCommand, MergeNodesWarnsOfAJointThatTiesTheMergedNodesInAnotherStage) {
+  auto text = LooseModel();
+  text.replace(text.find("\"NodeLoad\""), 0, R"("AnalStage": [{"n": 7}],
+"Joint": [{"direction": ["X"], "primaryNode": 2, "constrainedNode": 3, "stage": "7"}],
+)");
+  auto const result =
+      RunTarvex({"merge-nodes", Write("in.json", text), "-o", Path("out.json"), "--json"});
+  EXPECT_EQ(result.exit, 1);
+  auto const warnings = result.Json().at("warnings");
+  ASSERT_EQ(warnings.size(), 1u);
+  EXPECT_EQ(warnings.at(0).at("code"), "self-constraint");
+  EXPECT_EQ(warnings.at(0).at("table"), "Joint");
+  EXPECT_EQ(warnings.at(0).at("number"), 1);
+}
+
 TEST_F(CoincidenceCommand, AStageThatExistsIsTaken) {
   auto text = LooseModel();
   text.replace(text.find("\"NodeLoad\""), 0, "\"AnalStage\": [{\"n\": 7}],\n");

@@ -182,7 +182,7 @@ TEST_F(SplitConnectCommand, ReportsLoadsOnLinesOnly) {
 }
 
 TEST_F(SplitConnectCommand, SplitWarnsOfAnExtensionWithoutLength) {
-  auto const report = RunOn({"split", "--list", "7", "--at=-2", "--extend"});
+  auto const report = RunOn({"split", "--list", "7", "--at=-2", "--extend"}, 1);
   EXPECT_EQ(report.at("warnings").at(0).at("code"), "no-length");
   EXPECT_EQ(report.at("warnings").at(0).at("number"), 9);
 }

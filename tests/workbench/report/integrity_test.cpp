@@ -5,9 +5,12 @@
 #include <limits>
 
 #include "store/record/axis.h"
+#include "store/record/constraint_eqn.h"
 #include "store/record/ent_list.h"
+#include "store/record/joint.h"
 #include "store/record/member.h"
 #include "store/record/node.h"
+#include "store/record/rigid.h"
 #include "tests/support/builders.h"
 
 namespace Tarvex::IntegrityTest {
@@ -181,6 +184,8 @@ TEST(FindingText, SaysInWordsWhatEachCodeMeans) {
             "dangling-reference: Elem 3 topology/2 names Node 99"},
         Row{{"repeated-node", "Elem", 3, "topology", 3, 1, ""},
             "repeated-node: Elem 3 topology/3: node 1 a second time"},
+        Row{{"self-constraint", "ConstraintEqn", 3, "terms", 1, 7, ""},
+            "self-constraint: ConstraintEqn 3 terms/1: node 7 is held by itself"},
         Row{{"dimension-not-finite", "Spec", 0, "zElevation", -1, {}, ""},
             "dimension-not-finite: Spec zElevation: it is not finite"},
         Row{{"list-reaches-itself", "List", 2, "text", -1, {}, ""},
@@ -191,6 +196,30 @@ TEST(FindingText, SaysInWordsWhatEachCodeMeans) {
             "combination-reaches-itself: CombinationCase 2 description: it leads back to itself, "
             "and has no factors"}})
     EXPECT_EQ(FindingText(row.finding), row.text);
+}
+
+TEST(FindFaults, FindsConstraintsOfANodeWithItself) {
+  auto model = Sound();
+  Data::CEntList const stages(SelNone, L"all");
+  for (int const constrained : {2, 1}) {
+    model.SetJoint(model.HighestJoint() + 1, {L"", Vbool6(L"fix"), 1, constrained, stages});
+    // An equation of other directions of one node is a rule like any other.
+    Data::CConstraintEqn equation;
+    equation.SetConstrainedNode(1);
+    equation.SetDir(Direction::Z);
+    equation.SetRhsTerm(-1, 2, Direction::Z, 1);
+    equation.SetRhsTerm(-1, 1, constrained == 1 ? Direction::Z : Direction::XX, 3);
+    model.SetConstraintEqn(model.HighestConstraintEqn() + 1, equation);
+  }
+  for (auto const* nodes : {L"1 2", L"2", L"", L"1", L"1 1"})
+    model.SetRigid(model.HighestRigid() + 1,
+                   {L"", Data::LinkType::All, 1, Data::CEntList(SelNode, nodes), stages});
+  auto const found = FindFaults(model);
+  ASSERT_EQ(found.size(), 4u);
+  EXPECT_EQ(found[0], (Finding{"self-constraint", "Joint", 2, "constrainedNode", -1, 1, ""}));
+  EXPECT_EQ(found[1], (Finding{"self-constraint", "ConstraintEqn", 2, "terms", 1, 1, ""}));
+  EXPECT_EQ(found[2], (Finding{"self-constraint", "Rigid", 4, "constrainedNodes", -1, 1, ""}));
+  EXPECT_EQ(found[3], (Finding{"self-constraint", "Rigid", 5, "constrainedNodes", -1, 1, ""}));
 }
 
 TEST(FindFaults, FindsNumbersThatAreNotFiniteWhereverTheyStand) {
