@@ -33,8 +33,7 @@ template <class T>
 void CheckNumber(Option const& option, std::string const& text, char const* wanted) {
   T value{};
   auto const fault = Parse(text, value);
-  if (fault == std::errc::result_out_of_range)
-    throw UsageError(std::string(option.name) + ": '" + text + "' is out of range");
+  if (fault == std::errc::result_out_of_range) throw OutOfRange(std::string(option.name), text);
   if (fault != std::errc() || !std::isfinite(static_cast<double>(value)))
     Refuse(option, text, wanted);
   auto const bound = [](double limit) { return std::to_string(static_cast<long long>(limit)); };

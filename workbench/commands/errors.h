@@ -41,6 +41,11 @@ class UsageError : public CommandError {
   using CommandError::CommandError;
 };
 
+/// The fault of a number that is one, but none that the program can hold.
+inline UsageError OutOfRange(std::string const& option, std::string const& text) {
+  return UsageError(option + ": '" + text + "' is out of range");
+}
+
 /// The tool or the model refuses: ends with ExitCode::Refused.
 class Refusal : public CommandError {
  public:

@@ -62,8 +62,7 @@ std::vector<T> NumbersOf(std::string const& option, std::string const& text, std
     T number{};
     auto const* const end = part.data() + part.size();
     auto const [rest, fault] = std::from_chars(part.data(), end, number);
-    if (fault == std::errc::result_out_of_range)
-      throw UsageError(option + ": '" + part + "' is out of range");
+    if (fault == std::errc::result_out_of_range) throw OutOfRange(option, part);
     if (fault == std::errc() && rest == end) numbers.push_back(number);
   }
   if (numbers.size() != count || SplitByCommas(text).size() != count)

@@ -47,7 +47,7 @@ struct MapRun {
 };
 
 std::string RunText(int first, int count) {
-  auto const text = std::to_string(first);
+  auto text = std::to_string(first);
   if (count == 1) return text;
   return text + (count == 2 ? " " : " to ") + std::to_string(first + count - 1);
 }
